@@ -1,0 +1,173 @@
+#include "vocabulary/word_file.h"
+
+#include "vocabulary/codepage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace vocabulary {
+namespace {
+
+constexpr char kSharpS = char(0xDF); // "ß" in Windows-1252
+constexpr qsizetype kKeep = kMaxWordLength + 1;
+
+// The words the game's toolkit used for these failures.
+const Failure kPastEnd{62, QStringLiteral("Input past end of file")};
+const Failure kAccess{75, QStringLiteral("Path/File access error")};
+const Failure kPermission{70, QStringLiteral("Permission denied")};
+const Failure kDeviceIo{57, QStringLiteral("Device I/O error")};
+const Failure kPathNotFound{76, QStringLiteral("Path not found")};
+const Failure kDiskFull{61, QStringLiteral("Disk full")};
+
+bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+} // namespace
+
+void ItemReader::append(char c)
+{
+    if (length_ < kKeep) cur_.append(c);
+    ++length_;
+    sharpS_ = sharpS_ || c == kSharpS;
+}
+
+void ItemReader::endItem()
+{
+    sink_(Item{cur_, length_, sharpS_});
+    cur_.clear();
+    length_ = 0;
+    sharpS_ = false;
+    state_ = State::Start;
+}
+
+void ItemReader::feed(QByteArrayView chunk)
+{
+    if (!chunk.isEmpty()) sawAny_ = true;
+    for (const char c : chunk) {
+        if (skipLf_) {
+            skipLf_ = false;
+            if (c == '\n') continue; // the LF of a CR LF
+        }
+        const bool delim = c == ',' || isLineEnd(c);
+        switch (state_) {
+        case State::Start:
+        case State::Lead:
+            if (c == ' ' || c == '\t') {
+                state_ = State::Lead;
+            } else if (c == '"') {
+                state_ = State::Quoted;
+            } else if (delim) {
+                endItem();
+            } else {
+                state_ = State::Bare;
+                append(c);
+            }
+            break;
+        case State::Bare:
+            if (delim) endItem();
+            else append(c);
+            break;
+        case State::Quoted:
+            // A line end also closes a quote left open, so one stray quote cannot swallow
+            // the rest of the file.
+            if (c == '"') state_ = State::AfterQuote;
+            else if (isLineEnd(c)) endItem();
+            else append(c);
+            break;
+        case State::AfterQuote:
+            if (delim) endItem(); // whatever stood between the quote and the delimiter is dropped
+            break;
+        }
+        if (c == '\r' && state_ == State::Start) skipLf_ = true;
+    }
+}
+
+bool ItemReader::finish()
+{
+    if (!sawAny_) return false;
+    if (state_ != State::Start) endItem(); // end of file inside an item ends the item
+    return true;
+}
+
+bool passesFilter(QStringView word)
+{
+    return word.size() <= kMaxWordLength && !word.contains(u'ß', Qt::CaseInsensitive) &&
+           !word.contains(u'ẞ');
+}
+
+namespace {
+
+ItemReader::Sink collector(QStringList& words)
+{
+    return [&words](const ItemReader::Item& item) {
+        if (item.length <= kMaxWordLength && !item.hasSharpS)
+            words.append(decodeCp1252(item.bytes));
+    };
+}
+
+} // namespace
+
+ReadResult readWords(QByteArrayView bytes)
+{
+    ReadResult r;
+    ItemReader reader(collector(r.words));
+    reader.feed(bytes);
+    if (!reader.finish()) r.failure = kPastEnd;
+    return r;
+}
+
+ReadResult readWordFile(const QString& fileName)
+{
+    ReadResult r;
+    const QFileInfo info(fileName);
+    if (!info.exists()) {
+        r.failure = Failure{kFileNotFound, QStringLiteral("File not found")};
+        return r;
+    }
+    if (info.isDir()) {
+        r.failure = kAccess;
+        return r;
+    }
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        r.failure = file.error() == QFileDevice::PermissionsError ? kPermission : kAccess;
+        return r;
+    }
+    ItemReader reader(collector(r.words));
+    QByteArray chunk(64 * 1024, Qt::Uninitialized);
+    for (;;) {
+        const qint64 n = file.read(chunk.data(), chunk.size());
+        if (n < 0) {
+            r.failure = kDeviceIo; // keep what was read up to here
+            return r;
+        }
+        if (n == 0) break;
+        reader.feed(QByteArrayView(chunk.constData(), n));
+    }
+    if (!reader.finish()) r.failure = kPastEnd;
+    return r;
+}
+
+std::optional<Failure> writeWordFile(const QString& fileName, const QStringList& words)
+{
+    const QFileInfo info(fileName);
+    if (!info.absoluteDir().exists()) return kPathNotFound;
+    if (info.isDir()) return kAccess;
+    QByteArray bytes;
+    for (const QString& w : words) {
+        bytes += encodeCp1252(w);
+        bytes += "\r\n";
+    }
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly)) return kAccess;
+    if (file.write(bytes) != bytes.size()) {
+        const bool full = file.error() == QFileDevice::ResourceError;
+        file.cancelWriting();
+        return full ? kDiskFull : kDeviceIo;
+    }
+    if (!file.commit()) return file.error() == QFileDevice::ResourceError ? kDiskFull : kAccess;
+    return std::nullopt;
+}
+
+} // namespace vocabulary

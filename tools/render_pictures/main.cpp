@@ -1,0 +1,91 @@
+// Renders the game's SVG picture sources to PNG bitmaps at 1x and 2x, and lays out a
+// contact sheet of everything rendered, for review.
+//
+//   render_pictures render SRC.svg WIDTH HEIGHT OUT.png       (writes OUT.png and OUT@2x.png)
+//   render_pictures sheet OUT.png PNG...                      (contact sheet of the given 1x files)
+#include <QGuiApplication>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <cstdio>
+
+namespace {
+
+int fail(const QString& why)
+{
+    std::fprintf(stderr, "render_pictures: %s\n", qPrintable(why));
+    return 1;
+}
+
+bool renderOne(QSvgRenderer& svg, int w, int h, int scale, const QString& out)
+{
+    QImage img(w * scale, h * scale, QImage::Format_ARGB32_Premultiplied);
+    img.fill(Qt::transparent);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    svg.render(&p, QRectF(0, 0, img.width(), img.height()));
+    p.end();
+    return img.save(out, "PNG");
+}
+
+int render(const QStringList& a)
+{
+    if (a.size() != 4) return fail("render needs SRC W H OUT");
+    QSvgRenderer svg(a[0]);
+    if (!svg.isValid()) return fail(a[0] + " is not a valid SVG");
+    const int w = a[1].toInt(), h = a[2].toInt();
+    if (w <= 0 || h <= 0) return fail("bad size");
+    QString out2 = a[3];
+    out2.insert(out2.lastIndexOf('.'), "@2x");
+    if (!renderOne(svg, w, h, 1, a[3]) || !renderOne(svg, w, h, 2, out2))
+        return fail("cannot write " + a[3]);
+    return 0;
+}
+
+// Each picture at 1x and 2x side by side, on a mid grey so both light and dark art reads.
+int sheet(const QStringList& a)
+{
+    if (a.size() < 2) return fail("sheet needs OUT and at least one PNG");
+    const int cols = 6, pad = 12, label = 16;
+    QList<QImage> ones, twos;
+    int cellW = 0, cellH = 0;
+    for (qsizetype i = 1; i < a.size(); ++i) {
+        QString two = a[i];
+        two.insert(two.lastIndexOf('.'), "@2x");
+        ones << QImage(a[i]);
+        twos << QImage(two);
+        cellW = qMax(cellW, ones.last().width() + twos.last().width() + 3 * pad);
+        cellH = qMax(cellH, qMax(ones.last().height(), twos.last().height()) + 2 * pad + label);
+    }
+    const int n = int(ones.size());
+    const int rows = (n + cols - 1) / cols;
+    QImage img(cols * cellW, rows * cellH, QImage::Format_RGB32);
+    img.fill(QColor(128, 128, 128));
+    QPainter p(&img);
+    p.setFont(QFont("DejaVu Sans", 8));
+    for (int i = 0; i < n; ++i) {
+        const int x = (i % cols) * cellW, y = (i / cols) * cellH;
+        p.drawImage(x + pad, y + pad, ones[i]);
+        p.drawImage(x + 2 * pad + ones[i].width(), y + pad, twos[i]);
+        p.drawText(QRect(x, y + cellH - label - 2, cellW, label), Qt::AlignCenter,
+                   QFileInfo(a[i + 1]).completeBaseName());
+    }
+    p.end();
+    return img.save(a[0], "PNG") ? 0 : fail("cannot write " + a[0]);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QStringList args = app.arguments().mid(1);
+    if (args.isEmpty()) return fail("usage: render_pictures render|sheet ...");
+    const QString cmd = args.takeFirst();
+    if (cmd == "render") return render(args);
+    if (cmd == "sheet") return sheet(args);
+    return fail("unknown command " + cmd);
+}
