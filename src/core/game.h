@@ -1,0 +1,108 @@
+#pragma once
+// The game's rules. Commands come in; state goes out for the windows to draw.
+#include "core/state.h"
+#include "core/toolkit.h"
+
+#include <deque>
+#include <functional>
+
+namespace core {
+
+// Numbers as the game computes them: to the nearest whole number, ties to the even one.
+long long cint(double x);
+// a \ b: a to the nearest whole number, then divided, the remainder dropped.
+long long idiv(double a, long long b);
+
+// A player's action. Each is judged when it runs, not when it arrived.
+struct Command {
+    enum class Kind { Tile, Key, Start, Ende, Tip, Weiter, PicBut, Run };
+    Kind kind;
+    int index = 0;
+    std::function<void()> run; // for Run: a command whose handler lives in a window
+};
+
+class Game {
+public:
+    explicit Game(Toolkit& toolkit);
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    Global g;
+    Options einst;
+    Board board;
+    QStringList List1; // the words still to draw
+    int16_t FeldZahl = 0;
+
+    // Every player action enters here. While a guess, a draw or a wait runs, commands are
+    // queued and run in order once it has returned; only a held WeiterWarten runs them as
+    // they come. So no guess or draw ever starts inside another.
+    void submit(Command command);
+    void tile(int index) { submit({Command::Kind::Tile, index, {}}); }
+    void key(int keyAscii) { submit({Command::Kind::Key, keyAscii, {}}); }
+    void start() { submit({Command::Kind::Start, 0, {}}); }
+    void ende() { submit({Command::Kind::Ende, 0, {}}); }
+    void tip() { submit({Command::Kind::Tip, 0, {}}); }
+    void weiter() { submit({Command::Kind::Weiter, 0, {}}); }
+    void picBut(int index) { submit({Command::Kind::PicBut, index, {}}); }
+    void run(std::function<void()> handler) { submit({Command::Kind::Run, 0, std::move(handler)}); }
+
+    // Runs a routine outside any command (start-up). Stops quietly if the program ends.
+    void routine(const std::function<void()>& body);
+    bool busy() const { return depth_ > 0; }
+    bool ended() const { return ended_; }
+    // The main window has gone: every routine stops at the next point it waits or serves.
+    void programEnded();
+
+    // The routines, by their names in the game.
+    void start_Click();
+    void weiter_Click();
+    void WeiterWarten();
+    void tip_Click();
+    void ende_Click();
+    // The options command: shows the options (modal) through the caller's function, then
+    // swaps the pictures if the motif changed and restarts the game if a setting asks so.
+    void opt_Click(const std::function<void()>& showOptions);
+    void PicBut_Click(int Index);
+    void alpha_Click(int Index);
+    void Form_KeyPress(int KeyAscii);
+    void Aufloesung();
+    void NeuesSpiel();
+    void NaechsterSpieler();
+    void NeuesWort();
+    void Warten(double seconds);
+    void WoerterLaden();
+    void MotivSetzen();
+    // The scoreboard row of player i: its label, then its eight symbols.
+    void createPlayerLabel(int i);
+    void createPlayerSymbols(int i);
+    // Cuts a caption to the label's width in steps of one character and a ".".
+    QString shortenCaption(QString caption);
+
+    // AnzSpieler as far as the four rows reach: a hand-edited count never indexes past them.
+    int players() const;
+    bool soundOn() const { return einst.Sound == 1; }
+
+private:
+    struct Ended {}; // unwinds a routine once the program has ended
+
+    void drain();
+    void execute(const Command& command);
+    void serve();
+    void playSound(int n);
+    int box(const QString& text, int type, const QString& title);
+    [[noreturn]] void unloadMainWindow();
+    void throwIfEnded() const;
+    void setTurnColours(int player, bool atTurn);
+    void setTilesEnabled(bool enabled);
+    void uncover(int position, int tileIndex);
+    void wordSolved();
+    void miss();
+    void wordLost();
+
+    Toolkit& tk_;
+    std::deque<Command> queue_;
+    int depth_ = 0;
+    bool ended_ = false;
+};
+
+} // namespace core
