@@ -1,0 +1,95 @@
+// Writes the word files the game ships with, through the game's own writer, so they come
+// out exactly as the vocabulary editor would save them.
+//
+//   make_wordfiles OUT_DIR [LIST.txt ...]
+//
+// OUT_DIR/frostel.dat gets the built-in words in their fixed order. Each LIST.txt (UTF-8,
+// one word a line) becomes OUT_DIR/LIST.dat, sorted. A list with a word the game cannot
+// hold, or a word twice, fails the build rather than ship a file the game half reads.
+#include "vocabulary/englisch.h"
+#include "vocabulary/word_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QStringList>
+#include <cstdio>
+
+namespace {
+
+bool isPlainWord(const QString& w)
+{
+    if (w.isEmpty() || w.size() > vocabulary::kMaxWordLength) return false;
+    for (const QChar c : w)
+        if (!((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'))) return false;
+    return true;
+}
+
+bool readList(const QString& path, QStringList& words)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "make_wordfiles: cannot read %s\n", qPrintable(path));
+        return false;
+    }
+    const QStringList lines = QString::fromUtf8(f.readAll()).split(u'\n');
+    QSet<QString> seen;
+    bool ok = true;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString w = lines[i].trimmed();
+        if (w.isEmpty()) continue;
+        if (!isPlainWord(w)) {
+            std::fprintf(stderr, "%s:%lld: \"%s\" is not a word of 1 to %d letters A-Z\n",
+                         qPrintable(path), static_cast<long long>(i + 1), qPrintable(w),
+                         vocabulary::kMaxWordLength);
+            ok = false;
+        } else if (seen.contains(w.toLower())) {
+            std::fprintf(stderr, "%s:%lld: \"%s\" is there twice\n", qPrintable(path),
+                         static_cast<long long>(i + 1), qPrintable(w));
+            ok = false;
+        }
+        seen.insert(w.toLower());
+        words.append(w);
+    }
+    return ok;
+}
+
+bool write(const QString& path, const QStringList& words)
+{
+    if (const auto failure = vocabulary::writeWordFile(path, words)) {
+        std::fprintf(stderr, "make_wordfiles: %s: %s (%d)\n", qPrintable(path),
+                     qPrintable(failure->text), failure->number);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: make_wordfiles OUT_DIR [LIST.txt ...]\n");
+        return 2;
+    }
+    const QDir out(QString::fromLocal8Bit(argv[1]));
+    if (!out.exists() && !QDir().mkpath(out.path())) {
+        std::fprintf(stderr, "make_wordfiles: cannot make %s\n", argv[1]);
+        return 1;
+    }
+
+    QStringList builtin;
+    vocabulary::WortlisteFuellen(builtin);
+    if (!write(out.filePath(QStringLiteral("frostel.dat")), builtin)) return 1;
+
+    for (int i = 2; i < argc; ++i) {
+        const QString list = QString::fromLocal8Bit(argv[i]);
+        QStringList words;
+        if (!readList(list, words)) return 1;
+        words.sort(Qt::CaseInsensitive);
+        const QString name = QFileInfo(list).completeBaseName() + QStringLiteral(".dat");
+        if (!write(out.filePath(name), words)) return 1;
+    }
+    return 0;
+}
