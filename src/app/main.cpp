@@ -1,12 +1,18 @@
+#include "app/working_folder.h"
+#include "mainwindow/main_window.h"
+
 #include <QApplication>
-#include <QMainWindow>
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    QMainWindow w;
-    w.setWindowTitle("Frostel32 v2.31");
-    w.resize(632, 412);
-    w.show();
+    QApplication::setApplicationName(QStringLiteral("frostel32"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Frostel32"));
+    QApplication::setApplicationVersion(QStringLiteral("2.31"));
+    QApplication::setDesktopFileName(QStringLiteral("frostel32"));
+    // Word files and sounds are found by bare name in the working folder.
+    app::enterWorkingFolder();
+    mainwindow::MainWindow window;
+    window.Form_Load();
     return app.exec();
 }

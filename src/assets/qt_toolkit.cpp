@@ -1,0 +1,148 @@
+#include "assets/qt_toolkit.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSoundEffect>
+#include <QTime>
+#include <QTimer>
+#include <QUrl>
+#include <bit>
+#include <cmath>
+
+namespace assets {
+namespace {
+
+constexpr double kTwipsPerPixel = 15.0;
+
+// Spreads the bits of a seed so that clocks a millisecond apart start far apart.
+uint64_t mix(uint64_t z)
+{
+    z += 0x9E3779B97F4A7C15ULL;
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
+    return z ^ (z >> 31);
+}
+
+} // namespace
+
+QtToolkit::QtToolkit() : random_(mix(uint64_t(QTime::currentTime().msecsSinceStartOfDay()))) {}
+
+QtToolkit::~QtToolkit() = default;
+
+void QtToolkit::present()
+{
+    if (beforeEvents) beforeEvents();
+}
+
+void QtToolkit::serveEvents()
+{
+    present();
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+void QtToolkit::waitForEvents()
+{
+    if (stopped_) return;
+    present();
+    // Sleeps until something arrives: no CPU while the players think.
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+void QtToolkit::wait(double seconds)
+{
+    if (stopped_) return;
+    present();
+    // The window keeps painting; input that comes now becomes commands that the game
+    // queues until the routine that waits has returned.
+    QEventLoop loop;
+    QTimer timer;
+    timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(int(std::lround(seconds * 1000)));
+    QEventLoop* outer = waitLoop_;
+    waitLoop_ = &loop;
+    loop.exec();
+    waitLoop_ = outer;
+}
+
+void QtToolkit::stopWaiting()
+{
+    stopped_ = true;
+    if (waitLoop_) waitLoop_->quit();
+}
+
+double QtToolkit::clock() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+
+void QtToolkit::seedRandom(double seed) { random_.seed(mix(std::bit_cast<uint64_t>(seed))); }
+
+double QtToolkit::random()
+{
+    // 53 random bits: even over 0 up to below 1.
+    return double(random_() >> 11) * 0x1.0p-53;
+}
+
+int QtToolkit::msgBox(const QString& text, int type, const QString& title)
+{
+    if (stopped_) return core::kAnswerNo;
+    present();
+    QMessageBox box(main_ && main_->isVisible() ? main_.data() : nullptr);
+    box.setWindowTitle(title.isEmpty() ? QApplication::applicationDisplayName() : title);
+    QString shown = text;
+    box.setText(shown.replace(QChar(13), QChar('\n')));
+    if (type == core::kYesNoQuestion) {
+        box.setIcon(QMessageBox::Question);
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        box.setEscapeButton(QMessageBox::No);
+    } else {
+        box.setIcon(QMessageBox::Warning);
+        box.setStandardButtons(QMessageBox::Ok);
+    }
+    const int r = box.exec();
+    if (type != core::kYesNoQuestion) return core::kAnswerOk;
+    return r == QMessageBox::Yes ? core::kAnswerYes : core::kAnswerNo;
+}
+
+void QtToolkit::playSound(int n)
+{
+    if (n < 0 || n >= int(sounds_.size())) return;
+    auto& effect = sounds_[n];
+    if (!effect) {
+        const QString name = QStringLiteral("frostl%1.wav").arg(n);
+        const QString path = soundFolder.isEmpty() ? name : soundFolder + '/' + name;
+        if (!QFileInfo::exists(path)) return; // a missing file stays silent
+        effect = std::make_unique<QSoundEffect>();
+        effect->setSource(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    }
+    // A new sound cuts off the one before.
+    if (playing_ && playing_ != effect.get()) playing_->stop();
+    effect->stop();
+    effect->play();
+    playing_ = effect.get();
+}
+
+double QtToolkit::textWidth(const QString& text)
+{
+    QFont font = main_ ? main_->font() : QApplication::font();
+    font.setPointSizeF(12);
+    font.setBold(true);
+    return QFontMetricsF(font).horizontalAdvance(text) * kTwipsPerPixel;
+}
+
+double QtToolkit::windowWidth()
+{
+    return main_ ? main_->frameGeometry().width() * kTwipsPerPixel : 9600.0;
+}
+
+void QtToolkit::endProgram()
+{
+    stopWaiting();
+    if (onEnd) onEnd();
+}
+
+} // namespace assets

@@ -1,0 +1,152 @@
+#include "mainwindow/help_window.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace mainwindow {
+namespace {
+
+const QString kPages = QStringLiteral(":/help/");
+
+struct Page {
+    QString name, title, text;
+};
+
+// The pages' plain text, read once: the search runs over it.
+const QList<Page>& pages()
+{
+    static const QList<Page> all = [] {
+        QList<Page> list;
+        for (const QString& name : QDir(kPages).entryList({"*.html"}, QDir::Files, QDir::Name)) {
+            QFile f(kPages + name);
+            if (!f.open(QIODevice::ReadOnly)) continue;
+            QTextDocument doc;
+            doc.setHtml(QString::fromUtf8(f.readAll()));
+            QString title = doc.metaInformation(QTextDocument::DocumentTitle);
+            list.append({name, title.isEmpty() ? name : title, doc.toPlainText()});
+        }
+        return list;
+    }();
+    return all;
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window)
+{
+    setWindowTitle(QStringLiteral("Frostel32 Help"));
+    resize(720, 560);
+    auto* bar = new QToolBar(this);
+    auto* contents = bar->addAction(QStringLiteral("&Contents"));
+    auto* back = bar->addAction(QStringLiteral("&Back"));
+    auto* forward = bar->addAction(QStringLiteral("&Forward"));
+    auto* searchAction = bar->addAction(QStringLiteral("&Search"));
+    browser_ = new QTextBrowser(this);
+    browser_->setSearchPaths({kPages});
+    browser_->setOpenExternalLinks(false);
+
+    searchPane_ = new QWidget(this);
+    field_ = new QLineEdit(searchPane_);
+    field_->setPlaceholderText(QStringLiteral("Words to find"));
+    field_->setClearButtonEnabled(true);
+    auto* go = new QPushButton(QStringLiteral("&Find"), searchPane_);
+    results_ = new QListWidget(searchPane_);
+    auto* searchLayout = new QVBoxLayout(searchPane_);
+    searchLayout->setContentsMargins(0, 0, 0, 0);
+    auto* row = new QHBoxLayout;
+    row->addWidget(field_);
+    row->addWidget(go);
+    searchLayout->addWidget(new QLabel(QStringLiteral("Search all help pages:"), searchPane_));
+    searchLayout->addLayout(row);
+    searchLayout->addWidget(results_);
+    searchPane_->hide();
+
+    auto* split = new QSplitter(this);
+    split->addWidget(searchPane_);
+    split->addWidget(browser_);
+    split->setStretchFactor(1, 3);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(bar);
+    layout->addWidget(split);
+
+    connect(contents, &QAction::triggered, this, &HelpWindow::showContents);
+    connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
+    connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
+    connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(searchAction, &QAction::triggered, this, &HelpWindow::search);
+    connect(field_, &QLineEdit::returnPressed, this, &HelpWindow::runSearch);
+    connect(go, &QPushButton::clicked, this, &HelpWindow::runSearch);
+    connect(results_, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+        open(item->data(Qt::UserRole).toString());
+        // Show the first place the words stand.
+        const QStringList words = field_->text().split(' ', Qt::SkipEmptyParts);
+        if (!words.isEmpty()) browser_->find(words.first());
+    });
+}
+
+void HelpWindow::open(const QString& page)
+{
+    browser_->setSource(QUrl(page));
+    show();
+    raise();
+    activateWindow();
+}
+
+void HelpWindow::showContents() { open(QStringLiteral("index.html")); }
+
+void HelpWindow::showHelpOnHelp() { open(QStringLiteral("helponhelp.html")); }
+
+void HelpWindow::search()
+{
+    searchPane_->show();
+    show();
+    raise();
+    activateWindow();
+    field_->setFocus();
+    field_->selectAll();
+}
+
+QString HelpWindow::currentPage() const { return browser_->source().fileName(); }
+
+QList<QPair<QString, QString>> HelpWindow::find(const QString& query) const
+{
+    const QStringList words = query.split(' ', Qt::SkipEmptyParts);
+    QList<QPair<QString, QString>> hits;
+    if (words.isEmpty()) return hits;
+    for (const Page& p : pages()) {
+        bool all = true;
+        for (const QString& w : words) all = all && p.text.contains(w, Qt::CaseInsensitive);
+        if (all) hits.append({p.title, p.name});
+    }
+    return hits;
+}
+
+void HelpWindow::runSearch()
+{
+    results_->clear();
+    const auto hits = find(field_->text());
+    for (const auto& [title, name] : hits) {
+        auto* item = new QListWidgetItem(title, results_);
+        item->setData(Qt::UserRole, name);
+    }
+    if (hits.isEmpty()) {
+        auto* item = new QListWidgetItem(QStringLiteral("No page holds these words."), results_);
+        item->setFlags(Qt::NoItemFlags);
+    }
+}
+
+} // namespace mainwindow

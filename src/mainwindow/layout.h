@@ -1,0 +1,28 @@
+#pragma once
+// Where the main window's movable controls stand for a given outer size, in twips.
+// Nothing grows: the picture keeps to 60 percent of the width, the buttons to the strip
+// right of it, the letter panel and the word to the middle.
+#include <vector>
+
+namespace mainwindow {
+
+struct Twips {
+    long long left = 0, top = 0;
+    bool operator==(const Twips&) const = default;
+};
+
+constexpr int kMinWidth = 9600, kMinHeight = 6975;
+
+struct Layout {
+    Twips bFolge;             // all ten pictures
+    Twips picBut[3];          // their tops stay as designed
+    Twips picture1;
+    std::vector<Twips> feld;  // index 0 is the hidden pattern
+    Twips picBut3;
+};
+
+// W, H: the window's outer size; bFolge0Height: the first picture's height, smaller while
+// it grows; letters: the length of the word, 0 with none.
+Layout Anordnen(double W, double H, int bFolge0Height, int letters);
+
+} // namespace mainwindow

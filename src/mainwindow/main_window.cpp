@@ -1,0 +1,490 @@
+#include "mainwindow/main_window.h"
+
+#include "assets/picture_button.h"
+#include "assets/pictures.h"
+#include "mainwindow/help_window.h"
+#include "settings/options.h"
+#include "ui_eisfig.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QWindow>
+#include <cmath>
+
+namespace mainwindow {
+namespace {
+
+constexpr double kTwipsPerPixel = 15.0;
+constexpr int kDesignWidth = 9600, kDesignHeight = 6975; // outer size of the design
+constexpr int kPicture1Width = 9000;
+
+int px(double twips) { return int(std::lround(twips / kTwipsPerPixel)); }
+long long tw(int pixels) { return (long long)pixels * 15; }
+
+QColor fromBgr(uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+const QString kWindow = QStringLiteral("Window");
+const QString kSettings = QStringLiteral("Einstellungen");
+
+} // namespace
+
+MainWindow::MainWindow() : MainWindow(Setup{}) {}
+
+MainWindow::MainWindow(Setup setup)
+    : setup_(std::move(setup)), ui_(std::make_unique<Ui::eisfig>()), profile_(setup_.profilePath)
+{
+    if (!setup_.exitProgram) setup_.exitProgram = [](int code) { QCoreApplication::exit(code); };
+    ui_->setupUi(this);
+    setWindowIcon(QIcon(QStringLiteral(":/pictures/icon.png")));
+    QPalette pal = ui_->client->palette();
+    pal.setColor(QPalette::Window, QColor(0, 0, 128));
+    ui_->client->setPalette(pal);
+    ui_->client->setAutoFillBackground(true);
+    setMinimumSize(px(kDesignWidth), px(kDesignHeight));
+
+    for (int i = 0; i < core::kTiles; ++i) {
+        alpha_[i] = findChild<QLabel*>(QStringLiteral("alpha_%1").arg(i));
+        alpha_[i]->installEventFilter(this);
+    }
+    for (int i = 0; i < core::kStages; ++i)
+        B_Folge_[i] = findChild<QLabel*>(QStringLiteral("B_Folge_%1").arg(i));
+    picButs_ = {ui_->PicBut_0, ui_->PicBut_1, ui_->PicBut_2};
+    Spieler_[0] = ui_->Spieler_0;
+    Punkt_[0] = ui_->Punkt_0;
+    Feld_.push_back(ui_->Feld_0);
+    loadPictures();
+
+    tk_.setMainWindow(this);
+    tk_.beforeEvents = [this] { sync(); };
+    tk_.onEnd = [this] { unloadMainWindow(); };
+
+    connect(ui_->start, &QAction::triggered, this, [this] { command([this] { game_.start(); }); });
+    connect(ui_->ende, &QAction::triggered, this, [this] { command([this] { game_.ende(); }); });
+    connect(ui_->tip, &QAction::triggered, this, [this] { command([this] { game_.tip(); }); });
+    connect(ui_->weiter, &QAction::triggered, this, [this] { command([this] { game_.weiter(); }); });
+    connect(ui_->opt, &QAction::triggered, this, [this] { opt_Click(); });
+    connect(ui_->about, &QAction::triggered, this, [this] { about_Click(); });
+    const std::array<QAction*, 3> help{ui_->hilfe_0, ui_->hilfe_1, ui_->hilfe_2};
+    for (int i = 0; i < 3; ++i)
+        connect(help[i], &QAction::triggered, this, [this, i] { hilfe_Click(i); });
+    for (int i = 0; i < 3; ++i)
+        connect(picButs_[i], &QAbstractButton::clicked, this,
+                [this, i] { command([this, i] { game_.picBut(i); }); });
+    connect(ui_->PicBut_3, &QAbstractButton::clicked, this,
+            [this] { command([this] { game_.picBut(3); }); });
+    // Keys reach the window before its controls, wherever the focus stands.
+    qApp->installEventFilter(this);
+}
+
+MainWindow::~MainWindow()
+{
+    qApp->removeEventFilter(this);
+    tk_.beforeEvents = nullptr;
+    tk_.onEnd = nullptr;
+}
+
+void MainWindow::loadPictures()
+{
+    const qreal dpr = devicePixelRatioF();
+    for (int i = 0; i < core::kTiles; ++i) {
+        tilePictures_[i] = assets::picture(QStringLiteral("alpha%1").arg(i), dpr);
+        alpha_[i]->setPixmap(tilePictures_[i]);
+        alpha_[i]->setCursor(Qt::PointingHandCursor);
+    }
+    covered_ = assets::picture(QStringLiteral("feld0"), dpr);
+    ui_->Feld_0->setPixmap(covered_);
+    ui_->Picture1->setPixmap(assets::picture(QStringLiteral("picture1"), dpr));
+    for (int s = 0; s < core::kStages; ++s) {
+        series_[0][s] = assets::picture(QStringLiteral("apfelbaum%1").arg(s), dpr);
+        series_[1][s] = assets::picture(QStringLiteral("eisfigur%1").arg(s), dpr);
+    }
+    symbols_ = {assets::picture(QStringLiteral("symbol0"), dpr),
+                assets::picture(QStringLiteral("symbol1"), dpr)};
+    ui_->Symbol_0->setPixmap(symbols_[0]);
+    ui_->Symbol_1->setPixmap(symbols_[1]);
+    ui_->Punkt_0->setPixmap(assets::picture(QStringLiteral("punkt0"), dpr));
+    shownSymbol_.fill(-1);
+    shownSymbol_[0] = 1;
+    for (int i = 0; i < 3; ++i)
+        picButs_[i]->setPicture(assets::picture(QStringLiteral("picbut%1").arg(i), dpr));
+    QPalette pal = ui_->PicBut_3->palette();
+    pal.setColor(QPalette::Button, QColor(0, 128, 128));
+    pal.setColor(QPalette::ButtonText, Qt::white);
+    ui_->PicBut_3->setPalette(pal);
+    ui_->PicBut_3->setAutoFillBackground(true);
+}
+
+// --- start-up and shutdown --------------------------------------------------------------
+
+void MainWindow::setCaptions()
+{
+    ui_->spiel->setTitle(QStringLiteral("&Game"));
+    ui_->about->setText(QStringLiteral("&About..."));
+    ui_->ende->setText(QStringLiteral("&End"));
+    ui_->hilf->setTitle(QStringLiteral("&Help"));
+    ui_->hilfe_0->setText(QStringLiteral("&Help"));
+    ui_->hilfe_1->setText(QStringLiteral("&Search"));
+    ui_->hilfe_2->setText(QStringLiteral("Help &on Help"));
+    ui_->opt->setText(QStringLiteral("&Options..."));
+    ui_->weiter->setText(QStringLiteral("next &Word"));
+    ui_->PicBut_3->setText(QStringLiteral("next word"));
+}
+
+void MainWindow::Form_Load()
+{
+    setCaptions();
+    // The about window, loaded as the splash, gives this window its title.
+    if (splash) splash(setup_.splashMs);
+    else setWindowTitle(QStringLiteral("Frostel32 v2.31"));
+    // A panel that is not 9000 twips wide carries its tiles to scale.
+    const double panelWidth = tw(ui_->Picture1->width());
+    if (panelWidth != kPicture1Width) {
+        const float factor = float(panelWidth / kPicture1Width);
+        for (int i = 0; i < core::kLetters; ++i)
+            alpha_[i]->move(int(alpha_[i]->x() * factor), int(alpha_[i]->y() * factor));
+    }
+    B_Folge_[0]->resize(B_Folge_[1]->size());
+    restorePlace();
+    presetOptions();
+    readNames();
+    game_.MotivSetzen();
+    game_.board.B_Folge_Visible[0] = true;
+    game_.routine([this] { game_.NeuesSpiel(); });
+    Anordnen();
+    sync();
+    const int16_t state = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
+    if (state == 2) showMaximized();
+    else if (state == 1) showMinimized();
+    else show();
+    loaded_ = true;
+    // The word list comes last, so its message stands over the finished screen.
+    game_.routine([this] { game_.WoerterLaden(); });
+    sync();
+}
+
+void MainWindow::restorePlace()
+{
+    const int16_t status = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
+    if (status == 2) setWindowState(Qt::WindowMaximized);
+    else if (status == 1) setWindowState(Qt::WindowMinimized);
+    const bool maximized = windowState() & Qt::WindowMaximized;
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const long long screenW = tw(screen.width()), screenH = tw(screen.height());
+    long long centreLeft = 0, centreTop = 0;
+    long long left = tw(x()), top = tw(y());
+    if (!maximized) {
+        centreLeft = core::idiv(double(screenW - kDesignWidth), 2);
+        centreTop = core::idiv(double(screenH - kDesignHeight), 2);
+        left = profile_.GetPrivateProfileInt(kWindow, "Left", int(centreLeft));
+        top = profile_.GetPrivateProfileInt(kWindow, "Top", int(centreTop));
+        const int width = profile_.GetPrivateProfileInt(kWindow, "Width", 9600);
+        const int height = profile_.GetPrivateProfileInt(kWindow, "Height", 6900);
+        setOuterSize(width, height);
+    }
+    // Off the screen, by the size the window has now: back to the centre.
+    const long long w = tw(frameGeometry().width()), h = tw(frameGeometry().height());
+    if (left < 0 || left > screenW - w) left = centreLeft;
+    if (top < 0 || top > screenH - h) top = centreTop;
+    if (!maximized) move(px(double(left)), px(double(top)));
+}
+
+void MainWindow::setOuterSize(int widthTwips, int heightTwips)
+{
+    const QSize frame = frameGeometry().size() - geometry().size();
+    // Sizes from a hand-edited file stay within what a screen can hold.
+    const int w = qBound(1, px(widthTwips), 16384) - frame.width();
+    const int h = qBound(1, px(heightTwips), 16384) - frame.height();
+    resize(qMax(w, minimumWidth()), qMax(h, minimumHeight()));
+}
+
+void MainWindow::presetOptions()
+{
+    core::Global& g = game_.g;
+    g.AnzSpieler = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzahl", 4));
+    g.AnzTips = int16_t(profile_.GetPrivateProfileInt(kSettings, "Tips", 3));
+    // What the options window reads when it loads: the vocabulary.
+    const QString stored = profile_.GetPrivateProfileString(kSettings, "Datei", QString(255, ' '), 255);
+    g.WortDatei = settings::chooseWordFile(stored, settings::wordFileRows());
+    g.MotivNr = int16_t(profile_.GetPrivateProfileInt(kSettings, "Motiv", 1));
+    const bool all = int16_t(profile_.GetPrivateProfileInt(kSettings, "Wiederholung", 1)) == -1;
+    game_.einst.wiederh = {all, !all};
+    game_.einst.Sound = int16_t(profile_.GetPrivateProfileInt(kSettings, "Sound", 1));
+    game_.einst.Anzeige = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzeige", 1));
+}
+
+void MainWindow::readNames()
+{
+    for (int i = 0; i < core::kPlayers; ++i) {
+        const QString n = QString::number(i + 1);
+        const QString name = profile_
+                                 .GetPrivateProfileString(kSettings, "Spieler" + n, "Spieler " + n, 25)
+                                 .trimmed();
+        game_.createPlayerLabel(i);
+        if (!settings::isDefaultName(name)) game_.einst.Spieler_Name[i] = name;
+        game_.board.Spieler[i].Caption = game_.einst.Spieler_Name[i];
+        game_.createPlayerSymbols(i);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    Form_Unload();
+    event->accept();
+}
+
+void MainWindow::unloadMainWindow() { close(); }
+
+void MainWindow::Form_Unload()
+{
+    if (unloaded_) return;
+    unloaded_ = true;
+    const bool maximized = windowState() & Qt::WindowMaximized;
+    const bool minimized = windowState() & Qt::WindowMinimized;
+    if (maximized) {
+        profile_.WritePrivateProfileString(kWindow, "Status", settings::numberForm(2));
+    } else {
+        const QRect r = frameGeometry();
+        profile_.WritePrivateProfileString(kWindow, "Left", settings::numberForm(tw(r.x())));
+        profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
+        profile_.WritePrivateProfileString(kWindow, "Width", settings::numberForm(tw(r.width())));
+        profile_.WritePrivateProfileString(kWindow, "Height", settings::numberForm(tw(r.height())));
+        profile_.WritePrivateProfileString(kWindow, "Status", settings::numberForm(minimized ? 1 : 0));
+    }
+    // Ends every wait at once; the game's routines stop where they stand.
+    game_.programEnded();
+    tk_.stopWaiting();
+    if (help_) help_->close();
+    setup_.exitProgram(0);
+}
+
+// --- commands -------------------------------------------------------------------------------
+
+void MainWindow::command(const std::function<void()>& submit)
+{
+    submit();
+    if (!unloaded_) sync();
+}
+
+void MainWindow::opt_Click()
+{
+    command([this] {
+        game_.run([this] {
+            game_.opt_Click([this] {
+                if (showOptions) showOptions();
+            });
+        });
+    });
+}
+
+void MainWindow::about_Click()
+{
+    command([this] {
+        game_.run([this] {
+            if (about) about();
+        });
+    });
+}
+
+void MainWindow::hilfe_Click(int Index)
+{
+    command([this, Index] {
+        game_.run([this, Index] {
+            if (!help_) help_ = new HelpWindow(this);
+            switch (Index) {
+            case 0: help_->showContents(); break;
+            case 1:
+                help_->showContents();
+                help_->search();
+                break;
+            case 2: help_->showHelpOnHelp(); break;
+            default: break;
+            }
+        });
+    });
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        for (int i = 0; i < core::kLetters; ++i) {
+            if (watched == alpha_[i]) {
+                auto* me = static_cast<QMouseEvent*>(event);
+                if (alpha_[i]->rect().contains(me->position().toPoint()))
+                    command([this, i] { game_.tile(i); });
+                return true;
+            }
+        }
+    }
+    if (event->type() == QEvent::KeyPress && !unloaded_) {
+        auto* ke = static_cast<QKeyEvent*>(event);
+        auto* w = qobject_cast<QWidget*>(watched);
+        if (!w || w->window() != this || !isActiveWindow()) return false;
+        if (ke->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+        if (ke->key() == Qt::Key_Return || ke->key() == Qt::Key_Enter) {
+            command([this] { game_.key(13); });
+            return true;
+        }
+        const QString text = ke->text();
+        if (text.size() == 1 && text[0].isPrint()) {
+            const QChar c = text[0];
+            command([this, c] { game_.key(c.unicode()); });
+            return !c.isSpace();
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// --- layout ---------------------------------------------------------------------------------
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (windowState() & Qt::WindowMinimized) return;
+    Anordnen();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !(windowState() & Qt::WindowMinimized))
+        Anordnen();
+}
+
+void MainWindow::moveTwips(QWidget* w, long long left, long long top)
+{
+    w->move(px(double(left)), px(double(top)));
+}
+
+void MainWindow::Anordnen()
+{
+    // The minimum counts the frame, which the window manager adds only once shown.
+    const QSize frame = frameGeometry().size() - geometry().size();
+    setMinimumSize(px(kDesignWidth) - frame.width(), px(kDesignHeight) - frame.height());
+    const QRect outer = frameGeometry();
+    const Layout l = mainwindow::Anordnen(double(tw(outer.width())), double(tw(outer.height())),
+                                          game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
+    for (QLabel* b : B_Folge_) moveTwips(b, l.bFolge.left, l.bFolge.top);
+    for (int i = 0; i < 3; ++i) moveTwips(picButs_[i], l.picBut[i].left, l.picBut[i].top);
+    moveTwips(ui_->Picture1, l.picture1.left, l.picture1.top);
+    auto& fields = game_.board.Feld;
+    for (size_t i = 0; i < l.feld.size() && i < fields.size(); ++i) {
+        if (!fields[i].loaded) continue; // fields come and go while a word is drawn
+        fields[i].Left = int(l.feld[i].left);
+        fields[i].Top = int(l.feld[i].top);
+    }
+    moveTwips(ui_->PicBut_3, l.picBut3.left, l.picBut3.top);
+    syncFields();
+}
+
+// --- drawing the game -----------------------------------------------------------------------
+
+void MainWindow::syncFields()
+{
+    const auto& fields = game_.board.Feld;
+    for (size_t i = fields.size(); i < Feld_.size(); ++i) delete Feld_[i];
+    Feld_.resize(std::max<size_t>(1, std::min(Feld_.size(), fields.size())));
+    for (size_t i = 0; i < fields.size(); ++i) {
+        const core::Field& f = fields[i];
+        if (i > 0 && !f.loaded) {
+            if (i < Feld_.size() && Feld_[i]) {
+                delete Feld_[i];
+                Feld_[i] = nullptr;
+            }
+            continue;
+        }
+        if (i >= Feld_.size()) Feld_.resize(i + 1, nullptr);
+        QLabel*& label = Feld_[i];
+        if (!label) {
+            label = new QLabel(ui_->client);
+            label->resize(ui_->Feld_0->size());
+            label->setPixmap(covered_);
+            label->setProperty("picture", -1);
+        }
+        moveTwips(label, f.Left, f.Top);
+        if (label->property("picture").toInt() != f.picture) {
+            label->setPixmap(f.picture < 0 ? covered_ : tilePictures_[f.picture]);
+            label->setProperty("picture", f.picture);
+        }
+        label->setVisible(i > 0 && f.Visible);
+    }
+}
+
+void MainWindow::sync()
+{
+    if (unloaded_) return;
+    const core::Board& b = game_.board;
+    for (int i = 0; i < core::kTiles; ++i) {
+        alpha_[i]->setVisible(b.alpha[i].Visible);
+        alpha_[i]->setCursor(b.alpha[i].Enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
+    if (b.seriesMotif != shownSeries_ && b.seriesMotif >= 0) {
+        for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setPixmap(series_[b.seriesMotif][s]);
+        shownSeries_ = b.seriesMotif;
+    }
+    if (b.B_Folge0_Height != shownHeight_) {
+        B_Folge_[0]->resize(B_Folge_[1]->width(), px(b.B_Folge0_Height));
+        shownHeight_ = b.B_Folge0_Height;
+    }
+    for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);
+
+    for (int i = 0; i < core::kPlayers; ++i) {
+        const core::PlayerLabel& p = b.Spieler[i];
+        if (!p.loaded) continue;
+        QLabel*& label = Spieler_[i];
+        if (!label) {
+            label = new QLabel(ui_->client);
+            label->setFont(ui_->Spieler_0->font());
+            label->setFrameStyle(ui_->Spieler_0->frameStyle());
+            label->setAlignment(ui_->Spieler_0->alignment());
+            label->setAutoFillBackground(true);
+            label->resize(ui_->Spieler_0->size());
+        }
+        moveTwips(label, p.Left, p.Top);
+        label->setText(p.Caption);
+        QPalette pal = label->palette();
+        pal.setColor(QPalette::Window, fromBgr(p.BackColor));
+        pal.setColor(QPalette::WindowText, fromBgr(p.ForeColor));
+        label->setPalette(pal);
+        label->setVisible(p.Visible);
+    }
+    for (int k = 0; k < core::kSymbols; ++k) {
+        const core::PointSymbol& s = b.Punkt[k];
+        if (!s.loaded) continue;
+        QLabel*& label = Punkt_[k];
+        if (!label) {
+            label = new QLabel(ui_->client);
+            label->resize(ui_->Punkt_0->size());
+        }
+        moveTwips(label, s.Left, s.Top);
+        if (shownSymbol_[k] != s.symbol) {
+            label->setPixmap(symbols_[s.symbol == 0 ? 0 : 1]);
+            shownSymbol_[k] = s.symbol;
+        }
+        label->setVisible(s.Visible);
+    }
+    syncFields();
+    ui_->tip->setEnabled(b.tip_Enabled);
+    ui_->weiter->setEnabled(b.weiter_Enabled);
+    for (int i = 0; i < 3; ++i) picButs_[i]->setVisible(b.PicBut_Visible[i]);
+    ui_->PicBut_3->setVisible(b.PicBut_Visible[3]);
+}
+
+// --- for tests --------------------------------------------------------------------------------
+
+Twips MainWindow::placeOf(const QWidget* w) const { return {tw(w->x()), tw(w->y())}; }
+
+QLabel* MainWindow::fieldLabel(int i) const
+{
+    return i >= 0 && size_t(i) < Feld_.size() ? Feld_[i] : nullptr;
+}
+
+QWidget* MainWindow::picBut(int i) const
+{
+    return i >= 0 && i < 3 ? static_cast<QWidget*>(picButs_[i]) : ui_->PicBut_3;
+}
+
+QWidget* MainWindow::letterPanel() const { return ui_->Picture1; }
+
+} // namespace mainwindow

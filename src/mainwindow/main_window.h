@@ -1,0 +1,121 @@
+#pragma once
+// The main window: draws what the game holds, turns clicks, keys and menu entries into the
+// game's commands, keeps its controls in place, and starts and ends the program.
+#include "assets/qt_toolkit.h"
+#include "core/game.h"
+#include "mainwindow/layout.h"
+#include "settings/profile.h"
+
+#include <QMainWindow>
+#include <QPixmap>
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QLabel;
+namespace Ui {
+class eisfig;
+}
+namespace assets {
+class PictureButton;
+}
+
+namespace mainwindow {
+
+class HelpWindow;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    struct Setup {
+        QString profilePath = settings::Profile::defaultPath();
+        int splashMs = 2500;                    // 0: no splash (tests)
+        std::function<void(int)> exitProgram;   // ends the process; the application's exit by default
+    };
+
+    MainWindow();
+    explicit MainWindow(Setup setup);
+    ~MainWindow() override;
+
+    core::Game& game() { return game_; }
+    assets::QtToolkit& toolkit() { return tk_; }
+    settings::Profile& profile() { return profile_; }
+
+    // Start-up, once: captions, splash, place and size, options, scoreboard, motif, a new
+    // game, layout, show, and last the word list.
+    void Form_Load();
+    void Anordnen();
+    void MotivSetzen() { game_.MotivSetzen(); sync(); }
+    // Shows what the game holds now.
+    void sync();
+
+    // The commands of the menu and the buttons, as a click gives them.
+    void about_Click();
+    void hilfe_Click(int Index);
+    void opt_Click();
+
+    // The windows that come from elsewhere: the splash (for the given milliseconds; it
+    // also titles this window), the options window shown modally, the about window.
+    std::function<void(int)> splash;
+    std::function<void()> showOptions;
+    std::function<void()> about;
+
+    // The places the layout gave, for tests: in twips.
+    Twips placeOf(const QWidget* w) const;
+    QLabel* tileLabel(int i) const { return alpha_[i]; }
+    QLabel* fieldLabel(int i) const;
+    QLabel* pictureLabel(int i) const { return B_Folge_[i]; }
+    QWidget* picBut(int i) const;
+    QLabel* playerLabel(int i) const { return Spieler_[i]; }
+    QLabel* pointLabel(int i) const { return Punkt_[i]; }
+    QWidget* letterPanel() const;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;     // Form_Resize
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;       // Form_Unload
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void command(const std::function<void()>& submit);
+    void setCaptions();
+    void restorePlace();
+    void presetOptions();
+    void readNames();
+    void loadPictures();
+    void syncFields();
+    void setOuterSize(int widthTwips, int heightTwips);
+    void unloadMainWindow();
+    void Form_Unload();
+    void moveTwips(QWidget* w, long long left, long long top);
+
+    Setup setup_;
+    std::unique_ptr<Ui::eisfig> ui_;
+    assets::QtToolkit tk_;
+    core::Game game_{tk_};
+    settings::Profile profile_;
+
+    std::array<QLabel*, core::kTiles> alpha_{};
+    std::array<QLabel*, core::kStages> B_Folge_{};
+    std::array<QLabel*, core::kPlayers> Spieler_{};
+    std::array<QLabel*, core::kSymbols> Punkt_{};
+    std::array<assets::PictureButton*, 3> picButs_{};
+    std::vector<QLabel*> Feld_; // Feld_[0] is the pattern
+
+    std::array<std::array<QPixmap, core::kStages>, 2> series_;
+    std::array<QPixmap, 2> symbols_;
+    std::array<QPixmap, core::kTiles> tilePictures_;
+    QPixmap covered_;
+
+    // What is on show, so a redraw touches only what changed.
+    int shownSeries_ = -1;
+    std::array<int, core::kSymbols> shownSymbol_{};
+    int shownHeight_ = -1;
+
+    HelpWindow* help_ = nullptr;
+    bool unloaded_ = false;
+    bool loaded_ = false;
+};
+
+} // namespace mainwindow

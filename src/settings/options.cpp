@@ -1,0 +1,27 @@
+#include "settings/options.h"
+
+#include <QDir>
+
+namespace settings {
+
+QStringList wordFileRows()
+{
+    return QDir::current().entryList({QStringLiteral("*.dat")}, QDir::Files | QDir::Readable,
+                                     QDir::Name);
+}
+
+QString chooseWordFile(const QString& stored, const QStringList& rows)
+{
+    if (rows.isEmpty()) return stored;
+    qsizetype index = 0;
+    for (qsizetype i = 0; i < rows.size(); ++i)
+        if (rows[i] == stored) index = i; // exact, case included
+    return rows[index];
+}
+
+bool isDefaultName(const QString& name)
+{
+    return name.size() >= 9 && name[8] >= u'1' && name[8] <= u'4';
+}
+
+} // namespace settings

@@ -1,0 +1,159 @@
+#include "settings/profile.h"
+
+#include "vocabulary/codepage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <cmath>
+#include <limits>
+
+namespace settings {
+namespace {
+
+// A settings file is small; anything far larger is not ours to read whole.
+constexpr qint64 kMaxFileSize = 1 << 20;
+
+QList<QByteArray> readLines(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QByteArray bytes = file.read(kMaxFileSize);
+    QList<QByteArray> lines = bytes.split('\n');
+    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+    for (QByteArray& l : lines)
+        if (l.endsWith('\r')) l.chop(1);
+    return lines;
+}
+
+// "[name]" with blanks allowed around: the section's name, else a null string.
+QString sectionName(const QByteArray& line)
+{
+    const QByteArray t = line.trimmed();
+    if (t.size() < 2 || t.front() != '[') return {};
+    const qsizetype close = t.indexOf(']');
+    if (close < 0) return {};
+    return vocabulary::decodeCp1252(t.mid(1, close - 1)).trimmed();
+}
+
+bool isKeyLine(const QByteArray& line, const QString& key, QString* value = nullptr)
+{
+    const qsizetype eq = line.indexOf('=');
+    if (eq < 0) return false;
+    if (vocabulary::decodeCp1252(line.left(eq)).trimmed().compare(key, Qt::CaseInsensitive) != 0)
+        return false;
+    if (value) *value = vocabulary::decodeCp1252(line.mid(eq + 1)).trimmed();
+    return true;
+}
+
+} // namespace
+
+QString numberForm(double value)
+{
+    QString digits;
+    if (std::isfinite(value) && value == std::trunc(value) && std::fabs(value) < 1e15)
+        digits = QString::number(static_cast<long long>(std::fabs(value)));
+    else
+        digits = QString::number(std::fabs(value), 'g', 7);
+    return (value < 0 ? QStringLiteral("-") : QStringLiteral(" ")) + digits;
+}
+
+QString Profile::lookup(const QString& section, const QString& key) const
+{
+    bool inSection = false;
+    bool seenSection = false;
+    for (const QByteArray& line : readLines(path_)) {
+        const QString name = sectionName(line);
+        if (!name.isNull()) {
+            // Only the first section of a name counts, as only the first key does.
+            if (seenSection) return {};
+            inSection = name.compare(section, Qt::CaseInsensitive) == 0;
+            seenSection = inSection;
+            continue;
+        }
+        QString value;
+        if (inSection && isKeyLine(line, key, &value)) return value.isNull() ? QString("") : value;
+    }
+    return {};
+}
+
+int Profile::GetPrivateProfileInt(const QString& section, const QString& key, int def) const
+{
+    const QString v = lookup(section, key);
+    if (v.isNull()) return def;
+    qsizetype i = 0;
+    while (i < v.size() && (v[i] == ' ' || v[i] == '\t')) ++i;
+    bool negative = false;
+    if (i < v.size() && v[i] == '-') {
+        negative = true;
+        ++i;
+    }
+    long long n = 0;
+    for (; i < v.size() && v[i].isDigit() && v[i].unicode() < 128; ++i) {
+        n = n * 10 + (v[i].unicode() - '0');
+        if (n > std::numeric_limits<int>::max()) n = std::numeric_limits<int>::max();
+    }
+    return int(negative ? -n : n);
+}
+
+QString Profile::GetPrivateProfileString(const QString& section, const QString& key,
+                                         const QString& def, int size) const
+{
+    QString v = lookup(section, key);
+    if (v.isNull()) {
+        v = def;
+        while (v.endsWith(' ')) v.chop(1);
+    }
+    return v.left(qMax(0, size - 1));
+}
+
+bool Profile::WritePrivateProfileString(const QString& section, const QString& key,
+                                        const QString& value)
+{
+    QList<QByteArray> lines = readLines(path_);
+    const QByteArray entry = vocabulary::encodeCp1252(key) + '=' + vocabulary::encodeCp1252(value);
+    qsizetype sectionAt = -1, insertAt = -1;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString name = sectionName(lines[i]);
+        if (!name.isNull()) {
+            if (sectionAt >= 0) break; // past the end of our section
+            if (name.compare(section, Qt::CaseInsensitive) == 0) sectionAt = insertAt = i;
+            continue;
+        }
+        if (sectionAt < 0) continue;
+        if (isKeyLine(lines[i], key)) {
+            lines[i] = entry;
+            insertAt = -2;
+            break;
+        }
+        if (!lines[i].trimmed().isEmpty()) insertAt = i; // after the section's last line
+    }
+    if (sectionAt < 0) {
+        if (!lines.isEmpty() && !lines.last().trimmed().isEmpty()) lines << QByteArray();
+        lines << '[' + vocabulary::encodeCp1252(section) + ']' << entry;
+    } else if (insertAt != -2) {
+        lines.insert(insertAt + 1, entry);
+    }
+    QByteArray bytes = lines.join("\r\n");
+    bytes += "\r\n";
+
+    const QFileInfo info(path_);
+    if (!QDir().mkpath(info.absolutePath())) return false;
+    QSaveFile file(path_);
+    if (!file.open(QIODevice::WriteOnly)) return false;
+    if (file.write(bytes) != bytes.size()) {
+        file.cancelWriting();
+        return false;
+    }
+    return file.commit();
+}
+
+QString Profile::defaultPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/frostel.ini");
+}
+
+} // namespace settings
