@@ -63,7 +63,7 @@ void QtToolkit::wait(double seconds)
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
-    timer.start(int(std::lround(seconds * 1000)));
+    timer.start(int(std::lround(seconds * waitScale * 1000)));
     QEventLoop* outer = waitLoop_;
     waitLoop_ = &loop;
     loop.exec();

@@ -28,6 +28,8 @@ public:
     std::function<void()> onEnd;
     // Where the sound files lie; empty for the working folder.
     QString soundFolder;
+    // Waits last this share of their time; tests shorten them.
+    double waitScale = 1.0;
 
     // Ends whatever wait runs now, and every later one at once.
     void stopWaiting();

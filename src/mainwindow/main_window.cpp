@@ -192,11 +192,11 @@ void MainWindow::restorePlace()
 
 void MainWindow::setOuterSize(int widthTwips, int heightTwips)
 {
-    const QSize frame = frameGeometry().size() - geometry().size();
     // Sizes from a hand-edited file stay within what a screen can hold.
-    const int w = qBound(1, px(widthTwips), 16384) - frame.width();
-    const int h = qBound(1, px(heightTwips), 16384) - frame.height();
-    resize(qMax(w, minimumWidth()), qMax(h, minimumHeight()));
+    outerWanted_ = QSize(qBound(1, px(widthTwips), 16384), qBound(1, px(heightTwips), 16384));
+    const QSize frame = frameGeometry().size() - geometry().size();
+    lastFrame_ = frame;
+    resize((outerWanted_ - frame).expandedTo(minimumSize()));
 }
 
 void MainWindow::presetOptions()
@@ -320,7 +320,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyPress && !unloaded_) {
         auto* ke = static_cast<QKeyEvent*>(event);
         auto* w = qobject_cast<QWidget*>(watched);
-        if (!w || w->window() != this || !isActiveWindow()) return false;
+        if (!w || w->window() != this) return false; // a box or another window has it
         if (ke->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
         if (ke->key() == Qt::Key_Return || ke->key() == Qt::Key_Enter) {
             command([this] { game_.key(13); });
@@ -359,9 +359,15 @@ void MainWindow::moveTwips(QWidget* w, long long left, long long top)
 
 void MainWindow::Anordnen()
 {
-    // The minimum counts the frame, which the window manager adds only once shown.
+    // Sizes count the frame, which the window manager adds only once the window shows.
     const QSize frame = frameGeometry().size() - geometry().size();
     setMinimumSize(px(kDesignWidth) - frame.width(), px(kDesignHeight) - frame.height());
+    if (frame != lastFrame_) {
+        lastFrame_ = frame;
+        if (outerWanted_.isValid() && windowState() == Qt::WindowNoState) {
+            resize((outerWanted_ - frame).expandedTo(minimumSize()));
+        }
+    }
     const QRect outer = frameGeometry();
     const Layout l = mainwindow::Anordnen(double(tw(outer.width())), double(tw(outer.height())),
                                           game_.board.B_Folge0_Height, int(game_.g.Wort.size()));

@@ -114,6 +114,8 @@ private:
     int shownHeight_ = -1;
 
     HelpWindow* help_ = nullptr;
+    QSize outerWanted_;   // the outer size asked for, in pixels, until the frame is known
+    QSize lastFrame_;
     bool unloaded_ = false;
     bool loaded_ = false;
 };

@@ -16,15 +16,25 @@ namespace {
 // A settings file is small; anything far larger is not ours to read whole.
 constexpr qint64 kMaxFileSize = 1 << 20;
 
+// A line with control characters is no text; it is neither read nor written back.
+bool isText(const QByteArray& line)
+{
+    for (const char c : line)
+        if (static_cast<unsigned char>(c) < 0x20 && c != '\t') return false;
+    return true;
+}
+
 QList<QByteArray> readLines(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    QByteArray bytes = file.read(kMaxFileSize);
-    QList<QByteArray> lines = bytes.split('\n');
-    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
-    for (QByteArray& l : lines)
+    const QByteArray bytes = file.read(kMaxFileSize);
+    QList<QByteArray> lines;
+    for (QByteArray l : bytes.split('\n')) {
         if (l.endsWith('\r')) l.chop(1);
+        if (isText(l)) lines << l;
+    }
+    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     return lines;
 }
 

@@ -1,0 +1,453 @@
+// The real main window, offscreen: start-up from the settings file, shutdown, the place of
+// its controls, and commands in each phase of a game.
+#include "assets/pictures.h"
+#include "mainwindow/main_window.h"
+#include "vocabulary/word_file.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using mainwindow::MainWindow;
+
+namespace {
+
+long long tw(int px) { return px * 15LL; }
+
+// Answers the next modal box with the given button once it shows.
+void answerNextBox(QMessageBox::StandardButton button, QStringList* texts = nullptr)
+{
+    QTimer::singleShot(0, [=] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return answerNextBox(button, texts);
+        if (texts) texts->append(box->text());
+        box->button(button)->click();
+    });
+}
+
+QByteArray fileBytes(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+bool samePicture(const QLabel* label, const QString& name)
+{
+    return label->pixmap().toImage() == assets::picture(name).toImage();
+}
+
+} // namespace
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void firstStartWithNoFile();
+    void restartRestoresWhatWasStored();
+    void maximisedLeavesPlaceKeysAlone();
+    void screenBounds_data();
+    void screenBounds();
+    void namesAndOptionsFromTheFile();
+    void handEditedFileStartsSafely_data();
+    void handEditedFileStartsSafely();
+    void missingWordFileSaysSoOverTheWindow();
+    void minimumSizeAndLayout();
+    void commandsInEachPhase();
+    void motifChangeSwapsPictures();
+    void optionsChangeEndsTheWaitWithANewWord();
+    void closingDuringTheWaitEndsAtOnce();
+    void unwritableSettingsFolder();
+
+private:
+    std::unique_ptr<MainWindow> startWindow(const QByteArray& ini = {});
+    QTemporaryDir dir_;
+    QString oldCwd_;
+    QString ini_;
+    int exits_ = 0;
+};
+
+void MainWindowTest::init()
+{
+    oldCwd_ = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(dir_.path()));
+    for (const QString& f : QDir().entryList(QDir::Files)) QFile::remove(f);
+    QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"apple"}));
+    QVERIFY(!vocabulary::writeWordFile("zoo.dat", {"gnu"}));
+    ini_ = dir_.filePath("config/frostel.ini");
+    QDir(dir_.filePath("config")).removeRecursively();
+    exits_ = 0;
+}
+
+void MainWindowTest::cleanup() { QDir::setCurrent(oldCwd_); }
+
+std::unique_ptr<MainWindow> MainWindowTest::startWindow(const QByteArray& ini)
+{
+    if (!ini.isNull()) {
+        QDir().mkpath(dir_.filePath("config"));
+        QFile f(ini_);
+        f.open(QIODevice::WriteOnly);
+        f.write(ini);
+    }
+    MainWindow::Setup setup;
+    setup.profilePath = ini_;
+    setup.splashMs = 0;
+    setup.exitProgram = [this](int) { ++exits_; };
+    auto w = std::make_unique<MainWindow>(setup);
+    w->toolkit().waitScale = 0.01;
+    w->Form_Load();
+    return w;
+}
+
+void MainWindowTest::firstStartWithNoFile()
+{
+    auto w = startWindow();
+    QVERIFY(w->isVisible());
+    QCOMPARE(w->windowTitle(), QString("Frostel32 v2.31"));
+    const QRect outer = w->frameGeometry();
+    QCOMPARE(tw(outer.width()), 9600LL);
+    QCOMPARE(tw(outer.height()), 6975LL); // the stored default 6900 is below the minimum
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QCOMPARE(outer.x(), int(std::lround((tw(screen.width()) - 9600) / 2 / 15.0)));
+    QCOMPARE(outer.y(), int(std::lround((tw(screen.height()) - 6975) / 2 / 15.0)));
+    const core::Game& g = w->game();
+    QCOMPARE(g.g.AnzSpieler, int16_t(4));
+    QCOMPARE(g.g.AnzTips, int16_t(3));
+    QCOMPARE(g.g.MotivNr, int16_t(1));
+    QCOMPARE(g.einst.wiederh, (std::array<bool, 2>{false, true}));
+    QCOMPARE(g.einst.Sound, 1);
+    QCOMPARE(g.einst.Anzeige, 1);
+    QCOMPARE(g.g.WortDatei, QString("frostel.dat")); // the first row of the file list
+    QCOMPARE(g.List1, QStringList{"apple"});
+    const QStringList names{"Marta", "Helene", "Matthis", "Svenja"};
+    for (int i = 0; i < 4; ++i) {
+        QVERIFY(w->playerLabel(i)->isVisible());
+        QCOMPARE(w->playerLabel(i)->text(), names[i]);
+    }
+    QVERIFY(w->pictureLabel(0)->isVisible());
+    QVERIFY(samePicture(w->pictureLabel(0), "eisfigur0"));
+    for (int i = 1; i < 10; ++i) QVERIFY(!w->pictureLabel(i)->isVisible());
+    for (int i = 0; i < 26; ++i) QVERIFY(w->tileLabel(i)->isVisible());
+    for (int i = 26; i < 29; ++i) QVERIFY(!w->tileLabel(i)->isVisible());
+    for (int i = 0; i < 32; ++i) QVERIFY(!w->pointLabel(i) || !w->pointLabel(i)->isVisible());
+    QVERIFY(!w->findChild<QAction*>("tip")->isEnabled());
+    QVERIFY(!w->findChild<QAction*>("weiter")->isEnabled());
+    for (int i = 0; i < 3; ++i) QVERIFY(w->picBut(i)->isVisible());
+    QVERIFY(!w->picBut(3)->isVisible());
+    QVERIFY(!QFile::exists(ini_)); // nothing is written before the end
+}
+
+void MainWindowTest::restartRestoresWhatWasStored()
+{
+    {
+        auto w = startWindow();
+        w->move(50, 40);
+        w->resize(w->width() + 60, w->height() + 30);
+        QTest::qWait(20);
+        w->close();
+        QCOMPARE(exits_, 1);
+    }
+    const QByteArray ini = fileBytes(ini_);
+    QVERIFY(ini.startsWith("[Window]\r\nLeft= 750\r\nTop= 600\r\n"));
+    QVERIFY(ini.contains("\r\nStatus= 0\r\n"));
+    QVERIFY(!ini.contains("Einstellungen")); // options are written by the options window only
+    auto w = startWindow();
+    QCOMPARE(w->frameGeometry().topLeft(), QPoint(50, 40));
+    QCOMPARE(tw(w->frameGeometry().width()), 9600LL + 900);
+    QCOMPARE(tw(w->frameGeometry().height()), 6975LL + 450);
+}
+
+void MainWindowTest::maximisedLeavesPlaceKeysAlone()
+{
+    const QByteArray before = "[Window]\r\nLeft= 3000\r\nTop= 45\r\nWidth= 12000\r\nHeight= 8000\r\nStatus= 2\r\n";
+    auto w = startWindow(before);
+    QVERIFY(w->windowState() & Qt::WindowMaximized);
+    w->close();
+    QCOMPARE(fileBytes(ini_), before); // only Status written, with the same value
+}
+
+void MainWindowTest::screenBounds_data()
+{
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("top");
+    QTest::addColumn<bool>("leftKept");
+    QTest::addColumn<bool>("topKept");
+    const QRect s = QGuiApplication::primaryScreen()->geometry();
+    const int maxLeft = int(tw(s.width())) - 9600, maxTop = int(tw(s.height())) - 6975;
+    QTest::newRow("right edge exactly") << maxLeft << 300 << true << true;
+    QTest::newRow("one twip further") << maxLeft + 1 << 300 << false << true;
+    QTest::newRow("left of the screen, top judged alone") << -15 << 300 << false << true;
+    QTest::newRow("below the screen") << 300 << maxTop + 1 << true << false;
+    QTest::newRow("above the screen") << 300 << -1 << true << false;
+}
+
+void MainWindowTest::screenBounds()
+{
+    QFETCH(int, left);
+    QFETCH(int, top);
+    QFETCH(bool, leftKept);
+    QFETCH(bool, topKept);
+    auto w = startWindow(QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
+    const QRect s = QGuiApplication::primaryScreen()->geometry();
+    const int centreLeft = int(std::lround(((tw(s.width()) - 9600) / 2) / 15.0));
+    const int centreTop = int(std::lround(((tw(s.height()) - 6975) / 2) / 15.0));
+    QCOMPARE(w->frameGeometry().x(), leftKept ? int(std::lround(left / 15.0)) : centreLeft);
+    QCOMPARE(w->frameGeometry().y(), topKept ? int(std::lround(top / 15.0)) : centreTop);
+}
+
+void MainWindowTest::namesAndOptionsFromTheFile()
+{
+    auto w = startWindow("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0\r\nWiederholung=-1\r\n"
+                         "Sound= 0\r\nAnzeige= 0\r\nSpieler1=Spieler 3\r\nSpieler2=Kim\r\n"
+                         "Datei=zoo.dat\r\n");
+    const core::Game& g = w->game();
+    QCOMPARE(g.g.AnzSpieler, int16_t(2));
+    QCOMPARE(g.g.AnzTips, int16_t(0));
+    QCOMPARE(g.g.MotivNr, int16_t(0));
+    QCOMPARE(g.einst.wiederh, (std::array<bool, 2>{true, false}));
+    QCOMPARE(g.einst.Sound, 0);
+    QCOMPARE(g.einst.Anzeige, 0);
+    QCOMPARE(g.g.WortDatei, QString("zoo.dat"));
+    QCOMPARE(g.List1, QStringList{"gnu"});
+    QCOMPARE(w->playerLabel(0)->text(), QString("Marta")); // a stored default name gives way
+    QCOMPARE(w->playerLabel(1)->text(), QString("Kim"));
+    QVERIFY(!w->playerLabel(2)->isVisible());
+    QVERIFY(samePicture(w->pictureLabel(0), "apfelbaum0"));
+    w->findChild<QAction*>("start")->trigger();
+    QVERIFY(!w->picBut(2)->isVisible()); // no tips: the button hides at the draw
+}
+
+void MainWindowTest::handEditedFileStartsSafely_data()
+{
+    QTest::addColumn<QByteArray>("ini");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("binary") << QByteArray("\x00\xff\x13[Win\x00dow]\nStatus=\x01", 20);
+    QTest::newRow("out of range") << QByteArray("[Window]\r\nStatus= 7\r\nWidth=-5\r\nHeight= 99999999\r\n"
+                                                "[Einstellungen]\r\nAnzahl= 9\r\nTips=-4\r\nMotiv= 3\r\nSound= 5\r\n");
+    QTest::newRow("keys without equals, long line")
+        << (QByteArray("[Einstellungen]\r\nAnzahl\r\n") + QByteArray(10240, 'z') + "\r\n");
+}
+
+void MainWindowTest::handEditedFileStartsSafely()
+{
+    QFETCH(QByteArray, ini);
+    auto w = startWindow(ini);
+    QVERIFY(w->isVisible());
+    QVERIFY(w->frameGeometry().width() >= 640);
+    QVERIFY(w->frameGeometry().height() >= 465);
+    // A game plays with whatever it read.
+    QAction* start = w->findChild<QAction*>("start");
+    start->trigger();
+    QTest::keyClick(w.get(), Qt::Key_Q);
+    QTest::keyClick(w.get(), Qt::Key_A);
+    QCOMPARE(w->game().g.Fehler, int16_t(1));
+    w->close();
+    // A clean file at the end: readable lines only, the window's place in it.
+    const QByteArray out = fileBytes(ini_);
+    QVERIFY(out.contains("[Window]"));
+    for (char c : out) QVERIFY(c == '\r' || c == '\n' || static_cast<unsigned char>(c) >= 0x20);
+}
+
+void MainWindowTest::missingWordFileSaysSoOverTheWindow()
+{
+    QFile::remove("frostel.dat");
+    QFile::remove("zoo.dat");
+    QStringList texts;
+    bool visibleWhenAsked = false;
+    QTimer::singleShot(0, [&] {
+        auto* main = qobject_cast<MainWindow*>(QApplication::topLevelWidgets().value(0));
+        visibleWhenAsked = main && main->isVisible();
+    });
+    answerNextBox(QMessageBox::Ok, &texts);
+    auto w = startWindow();
+    QCOMPARE(texts, QStringList{"File frostel.dat not found!"});
+    QVERIFY(w->isVisible());
+    w->findChild<QAction*>("start")->trigger();
+    QVERIFY(w->game().g.Wort.isEmpty());
+    for (int i = 0; i < 26; ++i) QVERIFY(!w->game().board.alpha[i].Enabled);
+}
+
+void MainWindowTest::minimumSizeAndLayout()
+{
+    auto w = startWindow();
+    w->findChild<QAction*>("start")->trigger();
+    // The draw puts the word 50 twips right of where the layout will.
+    QCOMPARE(w->game().board.Feld[1].Left, 3725);
+    w->resize(w->width() + 1, w->height());
+    QTest::qWait(10);
+    w->resize(w->width() - 1, w->height());
+    QTest::qWait(10);
+    QCOMPARE(tw(w->frameGeometry().width()), 9600LL);
+    auto near = [](long long twips, int px) { return std::llabs(twips - px * 15LL) <= 8; };
+    QVERIFY(near(5760, w->pictureLabel(0)->x()));
+    QVERIFY(near(360, w->pictureLabel(0)->y()));
+    QVERIFY(near(8605, w->picBut(0)->x()));
+    QVERIFY(near(2160, w->picBut(2)->y()));
+    QVERIFY(near(300, w->letterPanel()->x()));
+    QVERIFY(near(4507, w->letterPanel()->y()));
+    QCOMPARE(w->game().board.Feld[1].Left, 3675);
+    QCOMPARE(w->game().board.Feld[5].Left, 5475);
+    QCOMPARE(w->game().board.Feld[1].Top, 3273);
+    QVERIFY(near(3675, w->fieldLabel(1)->x()));
+    QVERIFY(near(3273, w->fieldLabel(1)->y()));
+    QVERIFY(near(3802, w->picBut(3)->x()));
+    QVERIFY(near(4073, w->picBut(3)->y()));
+    // Smaller is not allowed; the scoreboard stays where it is.
+    w->resize(300, 200);
+    QTest::qWait(10);
+    QCOMPARE(tw(w->frameGeometry().width()), 9600LL);
+    QCOMPARE(tw(w->frameGeometry().height()), 6975LL);
+    QVERIFY(near(240, w->playerLabel(0)->x()));
+    QVERIFY(near(400, w->playerLabel(0)->y()));
+}
+
+void MainWindowTest::commandsInEachPhase()
+{
+    auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+    auto* tip = w->findChild<QAction*>("tip");
+    auto* weiter = w->findChild<QAction*>("weiter");
+    auto* start = w->findChild<QAction*>("start");
+    auto* ende = w->findChild<QAction*>("ende");
+    core::Game& g = w->game();
+    // No game: letters and Enter do nothing, the tip button only counts.
+    QTest::keyClick(w.get(), Qt::Key_A);
+    QTest::keyClick(w.get(), Qt::Key_Return);
+    QVERIFY(g.g.Wort.isEmpty());
+    QTest::mouseClick(static_cast<QAbstractButton*>(w->picBut(2)), Qt::LeftButton);
+    QCOMPARE(g.g.TipZaehler, int16_t(1));
+    // The end, answered No, changes nothing.
+    QStringList texts;
+    answerNextBox(QMessageBox::No, &texts);
+    ende->trigger();
+    QCOMPARE(texts, QStringList{"Really end the game?"});
+    QCOMPARE(exits_, 0);
+    // Word under way, by the traffic light.
+    QTest::mouseClick(static_cast<QAbstractButton*>(w->picBut(0)), Qt::LeftButton);
+    QCOMPARE(g.g.Wort, QString("APPLE"));
+    QVERIFY(tip->isEnabled());
+    QVERIFY(!weiter->isEnabled());
+    QTest::keyClick(w.get(), Qt::Key_P);
+    QTest::mouseClick(w->tileLabel(0), Qt::LeftButton);
+    QCOMPARE(w->game().board.Feld[1].picture, 0);
+    QVERIFY(!w->tileLabel(0)->isVisible());
+    QVERIFY(w->fieldLabel(2)->pixmap().toImage() == assets::picture("alpha15").toImage());
+    // A second start asks; No leaves the word.
+    answerNextBox(QMessageBox::No, &texts);
+    start->trigger();
+    QCOMPARE(texts.last(), QString("Really start a new game?"));
+    QCOMPARE(g.g.Wort, QString("APPLE"));
+    // Solving holds the wait: weiter and its button come up; Enter ends it.
+    bool heldSeen = false;
+    QTimer::singleShot(50, [&] {
+        heldSeen = weiter->isEnabled() && w->picBut(3)->isVisible();
+        QTest::keyClick(w.get(), Qt::Key_Return);
+    });
+    QTest::keyClick(w.get(), Qt::Key_L);
+    QTest::keyClick(w.get(), Qt::Key_E);
+    QVERIFY(heldSeen);
+    QVERIFY(!weiter->isEnabled());
+    QVERIFY(!w->picBut(3)->isVisible());
+    QCOMPARE(g.g.Punkte[0], int16_t(1));
+    QVERIFY(w->pointLabel(0)->isVisible());
+    QVERIFY(samePicture(w->pointLabel(0), "symbol1"));
+    // The end, answered Yes, unloads the window.
+    answerNextBox(QMessageBox::Yes);
+    w->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(w.get()));
+    QTest::keyClick(w.get(), Qt::Key_E, Qt::ControlModifier);
+    QCOMPARE(exits_, 1);
+    QVERIFY(g.ended());
+    QVERIFY(QFile::exists(ini_));
+}
+
+void MainWindowTest::motifChangeSwapsPictures()
+{
+    auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+    core::Game& g = w->game();
+    w->findChild<QAction*>("start")->trigger();
+    g.g.Punkte[0] = 1;
+    g.board.Punkt[0].Visible = true;
+    QTest::keyClick(w.get(), Qt::Key_Z);
+    QTest::keyClick(w.get(), Qt::Key_Y);
+    QVERIFY(samePicture(w->pictureLabel(2), "eisfigur2"));
+    w->showOptions = [&] { g.g.MotivNr = 0; };
+    w->opt_Click();
+    QVERIFY(w->pictureLabel(2)->isVisible());
+    QVERIFY(samePicture(w->pictureLabel(2), "apfelbaum2"));
+    QVERIFY(samePicture(w->pointLabel(0), "symbol0"));
+    QVERIFY(w->pointLabel(0)->isVisible());
+    QCOMPARE(g.g.Fehler, int16_t(2));
+    QCOMPARE(g.g.Wort, QString("APPLE"));
+    // Also while the finished word waits: the picture changes, the wait goes on.
+    bool stillHeld = false;
+    QTimer::singleShot(30, [&] {
+        w->showOptions = [&] { g.g.MotivNr = 1; };
+        w->opt_Click();
+        stillHeld = w->findChild<QAction*>("weiter")->isEnabled() &&
+                    samePicture(w->pictureLabel(0), "eisfigur0");
+        w->findChild<QAction*>("weiter")->trigger();
+    });
+    for (const char* k = "aple"; *k; ++k) QTest::keyClick(w.get(), *k);
+    QVERIFY(stillHeld);
+    QCOMPARE(g.g.Punkte[2], int16_t(1)); // two misses passed the turn to player 2
+}
+
+void MainWindowTest::optionsChangeEndsTheWaitWithANewWord()
+{
+    auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+    core::Game& g = w->game();
+    w->findChild<QAction*>("start")->trigger();
+    QTimer::singleShot(30, [&] {
+        w->showOptions = [&] {
+            g.g.WortDatei = "zoo.dat";
+            g.g.EinstGeaendert = true;
+        };
+        w->opt_Click();
+    });
+    for (const char* k = "aple"; *k; ++k) QTest::keyClick(w.get(), *k);
+    QCOMPARE(g.g.Wort, QString("GNU"));
+    QCOMPARE(g.g.Punkte[0], int16_t(0)); // a new game
+    QVERIFY(!w->findChild<QAction*>("weiter")->isEnabled());
+    QVERIFY(g.g.SpielLaeuft);
+    QCOMPARE(g.board.Feld.size(), size_t(4));
+}
+
+void MainWindowTest::closingDuringTheWaitEndsAtOnce()
+{
+    auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+    w->findChild<QAction*>("start")->trigger();
+    QElapsedTimer clock;
+    clock.start();
+    QTimer::singleShot(30, [&] { w->close(); });
+    for (const char* k = "aple"; *k; ++k) QTest::keyClick(w.get(), *k);
+    QVERIFY(clock.elapsed() < 5000);
+    QCOMPARE(exits_, 1);
+    QVERIFY(w->game().ended());
+    QVERIFY(QFile::exists(ini_));
+}
+
+void MainWindowTest::unwritableSettingsFolder()
+{
+    QFile blocker(dir_.filePath("config"));
+    QVERIFY(blocker.open(QIODevice::WriteOnly)); // a file where the folder should be
+    blocker.close();
+    auto w = startWindow();
+    w->findChild<QAction*>("start")->trigger();
+    QTest::keyClick(w.get(), Qt::Key_A);
+    QCOMPARE(w->game().board.Feld[1].picture, 0);
+    w->close();
+    QCOMPARE(exits_, 1);
+    QFile::remove(dir_.filePath("config"));
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "tst_main_window.moc"
