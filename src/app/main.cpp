@@ -9,7 +9,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("frostel32"));
     QApplication::setApplicationDisplayName(QStringLiteral("Frostel32"));
     QApplication::setApplicationVersion(QStringLiteral("2.31"));
-    QApplication::setDesktopFileName(QStringLiteral("frostel32"));
+    QApplication::setDesktopFileName(QStringLiteral("net.frostel32.frostel32"));
     // Word files and sounds are found by bare name in the working folder.
     app::enterWorkingFolder();
     mainwindow::MainWindow window;

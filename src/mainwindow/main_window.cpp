@@ -1,5 +1,7 @@
 #include "mainwindow/main_window.h"
 
+#include "assets/info_window.h"
+#include "assets/options_window.h"
 #include "assets/picture_button.h"
 #include "assets/pictures.h"
 #include "mainwindow/help_window.h"
@@ -10,6 +12,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <cmath>
 
@@ -136,8 +139,8 @@ void MainWindow::Form_Load()
 {
     setCaptions();
     // The about window, loaded as the splash, gives this window its title.
-    if (splash) splash(setup_.splashMs);
-    else setWindowTitle(QStringLiteral("Frostel32 v2.31"));
+    if (setup_.splashMs > 0) assets::InfoWindow::splash(this, setup_.splashMs);
+    else assets::InfoWindow load(this); // loaded and unloaded at once: the title only
     // A panel that is not 9000 twips wide carries its tiles to scale.
     const double panelWidth = tw(ui_->Picture1->width());
     if (panelWidth != kPicture1Width) {
@@ -159,6 +162,7 @@ void MainWindow::Form_Load()
     else if (state == 1) showMinimized();
     else show();
     loaded_ = true;
+    QTimer::singleShot(200, this, &MainWindow::fitFrame);
     // The word list comes last, so its message stands over the finished screen.
     game_.routine([this] { game_.WoerterLaden(); });
     sync();
@@ -282,7 +286,7 @@ void MainWindow::about_Click()
 {
     command([this] {
         game_.run([this] {
-            if (about) about();
+            assets::InfoWindow::about(this);
         });
     });
 }
@@ -348,6 +352,9 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
+    // No event tells of the frame a window manager puts around the window; by the time the
+    // window is activated it is there.
+    if (event->type() == QEvent::ActivationChange) fitFrame();
     if (event->type() == QEvent::WindowStateChange && !(windowState() & Qt::WindowMinimized))
         Anordnen();
 }
@@ -357,17 +364,26 @@ void MainWindow::moveTwips(QWidget* w, long long left, long long top)
     w->move(px(double(left)), px(double(top)));
 }
 
-void MainWindow::Anordnen()
+void MainWindow::fitFrame()
 {
     // Sizes count the frame, which the window manager adds only once the window shows.
     const QSize frame = frameGeometry().size() - geometry().size();
     setMinimumSize(px(kDesignWidth) - frame.width(), px(kDesignHeight) - frame.height());
-    if (frame != lastFrame_) {
-        lastFrame_ = frame;
-        if (outerWanted_.isValid() && windowState() == Qt::WindowNoState) {
-            resize((outerWanted_ - frame).expandedTo(minimumSize()));
-        }
-    }
+    if (frame == lastFrame_) return;
+    lastFrame_ = frame;
+    if (outerWanted_.isValid() && windowState() == Qt::WindowNoState)
+        resize((outerWanted_ - frame).expandedTo(minimumSize()));
+}
+
+void MainWindow::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    fitFrame();
+}
+
+void MainWindow::Anordnen()
+{
+    fitFrame();
     const QRect outer = frameGeometry();
     const Layout l = mainwindow::Anordnen(double(tw(outer.width())), double(tw(outer.height())),
                                           game_.board.B_Folge0_Height, int(game_.g.Wort.size()));

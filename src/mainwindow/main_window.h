@@ -55,11 +55,8 @@ public:
     void hilfe_Click(int Index);
     void opt_Click();
 
-    // The windows that come from elsewhere: the splash (for the given milliseconds; it
-    // also titles this window), the options window shown modally, the about window.
-    std::function<void(int)> splash;
+    // Shows the options window modally; tests put their own in its place.
     std::function<void()> showOptions;
-    std::function<void()> about;
 
     // The places the layout gave, for tests: in twips.
     Twips placeOf(const QWidget* w) const;
@@ -74,6 +71,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;     // Form_Resize
     void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void closeEvent(QCloseEvent* event) override;       // Form_Unload
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -86,6 +84,7 @@ private:
     void loadPictures();
     void syncFields();
     void setOuterSize(int widthTwips, int heightTwips);
+    void fitFrame();
     void unloadMainWindow();
     void Form_Unload();
     void moveTwips(QWidget* w, long long left, long long top);

@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# The real program under Xvfb with a window manager: start a game by its shortcut, play a
+# word to its end by keys, end the wait with Enter, quit through the menu, and check what
+# the settings file then holds.
+#   play_a_word.sh FROSTEL32_BINARY
+set -u
+bin=$(readlink -f "$1")
+for tool in Xvfb xdotool openbox; do
+    command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
+done
+work=$(mktemp -d)
+xpid=""; wpid=""; gpid=""
+cleanup() { kill $gpid $wpid $xpid 2>/dev/null; wait 2>/dev/null; rm -rf "$work"; }
+trap cleanup EXIT; trap "cat $work/game.log" EXIT
+fail() { echo "FAIL: $*"; [ -f "$work/game.log" ] && sed 's/^/  game: /' "$work/game.log"; exit 1; }
+
+# A game folder of its own with a one-word vocabulary, so the word is known.
+mkdir -p "$work/game" "$work/home"
+cp "$bin" "$work/game/frostel32"
+printf 'ox\r\n' > "$work/game/frostel.dat"
+export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share
+export XDG_RUNTIME_DIR=$work/home/.runtime
+mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+
+for n in $(seq 170 199); do
+    [ -e /tmp/.X11-unix/X$n ] || [ -e /tmp/.X$n-lock ] && continue
+    Xvfb :$n -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 & xpid=$!
+    export DISPLAY=:$n
+    for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break 2; sleep 0.1; done
+done
+openbox >/dev/null 2>&1 & wpid=$!
+sleep 0.5
+
+(cd "$work/game" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!
+win=""
+for _ in $(seq 100); do # the splash comes first
+    win=$(xdotool search --onlyvisible --name '^Frostel32 v2.31$' 2>/dev/null | head -1)
+    [ -n "$win" ] && break
+    sleep 0.1
+done
+[ -n "$win" ] || fail "the main window did not appear"
+xdotool windowactivate --sync "$win" 2>/dev/null
+sleep 0.3
+xdotool key --window "$win" ctrl+s
+sleep 2.5 # the picture grows, the fields are laid out
+xdotool type --delay 150 ox
+sleep 1.5
+xdotool key Return # next word
+sleep 2.5
+xdotool key ctrl+e
+sleep 0.8
+xdotool key Return # Yes is the default
+for _ in $(seq 50); do kill -0 $gpid 2>/dev/null || break; sleep 0.1; done
+kill -0 $gpid 2>/dev/null && fail "the program did not end after End and Yes"
+wait $gpid; status=$?
+[ $status -eq 0 ] || fail "exit status $status"
+
+ini=$XDG_CONFIG_HOME/frostel32/frostel.ini
+[ -f "$ini" ] || fail "no $ini"
+for key in Left Top Width Height Status; do
+    grep -q "^$key=" "$ini" || fail "$key missing from $(cat -A "$ini")"
+done
+grep -q $'^Status= 0\r$' "$ini" || fail "Status not ' 0': $(cat -A "$ini")"
+grep -q $'^Width= 9600\r$' "$ini" || fail "Width not 9600 twips: $(cat -A "$ini")"
+grep -q 'Einstellungen' "$ini" && fail "options written without the options window"
+echo "1 passed, 0 failed"
