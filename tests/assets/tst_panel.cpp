@@ -1,0 +1,79 @@
+// The frames of flat panels: where their lines run, in twips and on the screen.
+#include "assets/panel.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+using assets::PanelLine;
+
+class PanelTest : public QObject {
+    Q_OBJECT
+private slots:
+    void workedExample();
+    void lineCounts_data();
+    void lineCounts();
+    void otherPixelSize();
+    void drawnPixels();
+};
+
+void PanelTest::workedExample()
+{
+    // The raised frame around the names of the options window.
+    const auto upper = assets::RahmenObenLinks(200, 2100, 650, 2300, 1);
+    const auto lower = assets::RahmenUntenRechts(200, 2100, 650, 2300, 1);
+    QCOMPARE(upper, (std::vector<PanelLine>{{185, 635, 2315, 635}, {185, 635, 185, 2965}}));
+    QCOMPARE(lower, (std::vector<PanelLine>{{185, 2950, 2300, 2950}, {2300, 635, 2300, 2965}}));
+}
+
+void PanelTest::lineCounts_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::newRow("none") << 0;
+    QTest::newRow("one") << 1;
+    QTest::newRow("two") << 2;
+}
+
+void PanelTest::lineCounts()
+{
+    QFETCH(int, lines);
+    const auto upper = assets::RahmenObenLinks(100, 300, 100, 300, lines);
+    const auto lower = assets::RahmenUntenRechts(100, 300, 100, 300, lines);
+    QCOMPARE(int(upper.size()), 2 * lines);
+    QCOMPARE(int(lower.size()), 2 * lines);
+    if (lines == 2) {
+        // The second line lies one pixel further out.
+        QCOMPARE(upper[2], (PanelLine{70, 70, 430, 70}));
+        QCOMPARE(lower[2], (PanelLine{70, 415, 415, 415})); // B + t
+        QCOMPARE(lower[3].x1, 415.0);                        // R + t
+    }
+}
+
+void PanelTest::otherPixelSize()
+{
+    const auto upper = assets::RahmenObenLinks(200, 2100, 650, 2300, 1, 12);
+    QCOMPARE(upper[0], (PanelLine{188, 638, 2312, 638}));
+}
+
+void PanelTest::drawnPixels()
+{
+    // A sunken frame around a control at (30, 30) px, 60 x 45 px.
+    QImage img(120, 100, QImage::Format_RGB32);
+    img.fill(assets::QBColor(7));
+    QPainter p(&img);
+    assets::drawPanelLines(p, assets::RahmenObenLinks(450, 900, 450, 675, 1), 8);
+    assets::drawPanelLines(p, assets::RahmenUntenRechts(450, 900, 450, 675, 1), 15);
+    p.end();
+    const QRgb grey = assets::QBColor(8).rgb(), white = assets::QBColor(15).rgb(),
+               back = assets::QBColor(7).rgb();
+    QCOMPARE(img.pixel(29, 29), grey);  // top left corner, outside
+    QCOMPARE(img.pixel(60, 29), grey);  // upper edge
+    QCOMPARE(img.pixel(29, 60), grey);  // left edge
+    QCOMPARE(img.pixel(60, 75), white); // lower edge on the bottom coordinate
+    QCOMPARE(img.pixel(90, 60), white); // right edge on the right coordinate
+    QCOMPARE(img.pixel(60, 60), back);  // inside untouched
+    QCOMPARE(img.pixel(60, 28), back);  // one line only
+}
+
+QTEST_MAIN(PanelTest)
+#include "tst_panel.moc"
