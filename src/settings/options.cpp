@@ -6,8 +6,11 @@ namespace settings {
 
 QStringList wordFileRows()
 {
-    return QDir::current().entryList({QStringLiteral("*.dat")}, QDir::Files | QDir::Readable,
-                                     QDir::Name);
+    // "*.dat" by hand: a name filter would load the regular-expression engine at start-up.
+    QStringList rows;
+    for (const QString& name : QDir::current().entryList(QDir::Files | QDir::Readable, QDir::Name))
+        if (name.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive)) rows << name;
+    return rows;
 }
 
 QString chooseWordFile(const QString& stored, const QStringList& rows)

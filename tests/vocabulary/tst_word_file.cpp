@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QStringDecoder>
 #include <QTest>
 
 using vocabulary::Failure;
@@ -181,6 +182,10 @@ void WordFile::everyByteRoundTrips()
     QCOMPARE(text.at(0x9F), QChar(u'Ÿ'));
     QCOMPARE(text.at(0xDF), QChar(u'ß'));
     for (int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) QCOMPARE(text.at(undefined).unicode(), undefined);
+    // The same mapping as the platform's own codec.
+    QStringDecoder platform("windows-1252");
+    QVERIFY(platform.isValid());
+    QCOMPARE(text, QString(platform.decode(all)));
 }
 
 void WordFile::unmappableCharactersBecomeQuestionMarks()
