@@ -1,11 +1,17 @@
 #include "app/working_folder.h"
+#include "assets/pictures.h"
 #include "mainwindow/main_window.h"
 
 #include <QApplication>
+#include <QTimer>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    QApplication::setStyle(new assets::LeanStyle);
     QApplication::setApplicationName(QStringLiteral("frostel32"));
     QApplication::setApplicationDisplayName(QStringLiteral("Frostel32"));
     QApplication::setApplicationVersion(QStringLiteral("2.31"));
@@ -14,5 +20,9 @@ int main(int argc, char** argv)
     app::enterWorkingFolder();
     mainwindow::MainWindow window;
     window.Form_Load();
+#ifdef __GLIBC__
+    // The splash and the start-up leave freed heap behind; give it back once the window stands.
+    QTimer::singleShot(0, [] { malloc_trim(0); });
+#endif
     return app.exec();
 }

@@ -1,12 +1,14 @@
 #include "assets/qt_toolkit.h"
 
+#include "assets/sound_player.h"
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSoundEffect>
+#include <QLibrary>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -108,22 +110,34 @@ int QtToolkit::msgBox(const QString& text, int type, const QString& title)
     return r == QMessageBox::Yes ? core::kAnswerYes : core::kAnswerNo;
 }
 
+SoundPlayer* QtToolkit::soundPlayer()
+{
+    if (soundTried_) return player_.get();
+    soundTried_ = true;
+    // Beside the program (the build tree), in an installed copy's library folder, and in
+    // the build tree for the tests' own executables.
+    const QString bin = QCoreApplication::applicationDirPath();
+    for (const QString& dir : {bin, bin + QStringLiteral("/" FROSTEL_SOUND_FROM_BINDIR),
+                               QStringLiteral(FROSTEL_RUNTIME_DIR)}) {
+        auto module = std::make_unique<QLibrary>(dir + QStringLiteral("/frostel32-sound"));
+        if (!module->load()) continue;
+        if (auto create = reinterpret_cast<CreateSoundPlayer>(module->resolve(kCreateSoundPlayer))) {
+            player_.reset(create());
+            soundModule_ = std::move(module);
+            return player_.get();
+        }
+    }
+    qWarning("frostel32: the sound module was not found; the game stays silent");
+    return nullptr;
+}
+
 void QtToolkit::playSound(int n)
 {
-    if (n < 0 || n >= int(sounds_.size())) return;
-    auto& effect = sounds_[n];
-    if (!effect) {
-        const QString name = QStringLiteral("frostl%1.wav").arg(n);
-        const QString path = soundFolder.isEmpty() ? name : soundFolder + '/' + name;
-        if (!QFileInfo::exists(path)) return; // a missing file stays silent
-        effect = std::make_unique<QSoundEffect>();
-        effect->setSource(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
-    }
-    // A new sound cuts off the one before.
-    if (playing_ && playing_ != effect.get()) playing_->stop();
-    effect->stop();
-    effect->play();
-    playing_ = effect.get();
+    if (n < 0 || n > 13) return;
+    const QString name = QStringLiteral("frostl%1.wav").arg(n);
+    const QString path = soundFolder.isEmpty() ? name : soundFolder + '/' + name;
+    if (!QFileInfo::exists(path)) return; // a missing file stays silent
+    if (SoundPlayer* player = soundPlayer()) player->play(QFileInfo(path).absoluteFilePath());
 }
 
 double QtToolkit::textWidth(const QString& text)

@@ -10,9 +10,11 @@
 #include <random>
 
 class QEventLoop;
-class QSoundEffect;
+class QLibrary;
 
 namespace assets {
+
+class SoundPlayer;
 
 class QtToolkit : public core::Toolkit {
 public:
@@ -54,8 +56,10 @@ private:
     QEventLoop* waitLoop_ = nullptr;
     bool stopped_ = false;
     std::mt19937_64 random_;
-    std::array<std::unique_ptr<QSoundEffect>, 14> sounds_;
-    QSoundEffect* playing_ = nullptr;
+    SoundPlayer* soundPlayer();
+    std::unique_ptr<QLibrary> soundModule_;
+    std::unique_ptr<SoundPlayer> player_;
+    bool soundTried_ = false;
 };
 
 } // namespace assets

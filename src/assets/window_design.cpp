@@ -1,5 +1,6 @@
 #include "assets/window_design.h"
 
+#include "assets/pictures.h"
 #include "assets/twips.h"
 
 #include <QGuiApplication>
@@ -48,7 +49,7 @@ QPushButton* DesignDialog::cancelButton() const {
 void DesignDialog::applyDesign() {
     applyTwips(this);
     applyPointSizes(this);
-    setWindowIcon(QIcon(QStringLiteral(":/pictures/icon.png")));
+    setWindowIcon(assets::windowIcon());
 }
 
 void DesignDialog::keyPressEvent(QKeyEvent* event) {

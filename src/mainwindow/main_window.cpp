@@ -6,6 +6,8 @@
 #include "assets/pictures.h"
 #include "mainwindow/help_window.h"
 #include "settings/options.h"
+#include "settings/options_dialog.h"
+#include "vocabulary/editor/vocabulary_editor.h"
 #include "ui_eisfig.h"
 
 #include <QApplication>
@@ -40,7 +42,7 @@ MainWindow::MainWindow(Setup setup)
 {
     if (!setup_.exitProgram) setup_.exitProgram = [](int code) { QCoreApplication::exit(code); };
     ui_->setupUi(this);
-    setWindowIcon(QIcon(QStringLiteral(":/pictures/icon.png")));
+    setWindowIcon(assets::windowIcon());
     QPalette pal = ui_->client->palette();
     pal.setColor(QPalette::Window, QColor(0, 0, 128));
     ui_->client->setPalette(pal);
@@ -62,6 +64,12 @@ MainWindow::MainWindow(Setup setup)
     tk_.setMainWindow(this);
     tk_.beforeEvents = [this] { sync(); };
     tk_.onEnd = [this] { unloadMainWindow(); };
+
+    // The options window loads at its first showing and then stays, hidden, as the place
+    // where the player edits the live options.
+    options_ = new settings::OptionsDialog(game_, profile_, this);
+    options_->openEditor = [this] { vocabulary::editor::showEditor(game_, tk_, options_->window()); };
+    showOptions = [this] { options_->show(); };
 
     connect(ui_->start, &QAction::triggered, this, [this] { command([this] { game_.start(); }); });
     connect(ui_->ende, &QAction::triggered, this, [this] { command([this] { game_.ende(); }); });
@@ -99,10 +107,6 @@ void MainWindow::loadPictures()
     covered_ = assets::picture(QStringLiteral("feld0"), dpr);
     ui_->Feld_0->setPixmap(covered_);
     ui_->Picture1->setPixmap(assets::picture(QStringLiteral("picture1"), dpr));
-    for (int s = 0; s < core::kStages; ++s) {
-        series_[0][s] = assets::picture(QStringLiteral("apfelbaum%1").arg(s), dpr);
-        series_[1][s] = assets::picture(QStringLiteral("eisfigur%1").arg(s), dpr);
-    }
     symbols_ = {assets::picture(QStringLiteral("symbol0"), dpr),
                 assets::picture(QStringLiteral("symbol1"), dpr)};
     ui_->Symbol_0->setPixmap(symbols_[0]);
@@ -442,8 +446,19 @@ void MainWindow::sync()
         alpha_[i]->setCursor(b.alpha[i].Enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
     if (b.seriesMotif != shownSeries_ && b.seriesMotif >= 0) {
-        for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setPixmap(series_[b.seriesMotif][s]);
         shownSeries_ = b.seriesMotif;
+        stageLoaded_.fill(false);
+    }
+    // Only the pictures on show are held: one stage or two, not twenty.
+    const QString stem = shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
+    for (int s = 0; s < core::kStages; ++s) {
+        if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_ >= 0) {
+            B_Folge_[s]->setPixmap(assets::picture(stem.arg(s), devicePixelRatioF()));
+            stageLoaded_[s] = true;
+        } else if (!b.B_Folge_Visible[s] && stageLoaded_[s]) {
+            B_Folge_[s]->clear();
+            stageLoaded_[s] = false;
+        }
     }
     if (b.B_Folge0_Height != shownHeight_) {
         B_Folge_[0]->resize(B_Folge_[1]->width(), px(b.B_Folge0_Height));

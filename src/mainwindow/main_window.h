@@ -20,6 +20,9 @@ class eisfig;
 namespace assets {
 class PictureButton;
 }
+namespace settings {
+class OptionsDialog;
+}
 
 namespace mainwindow {
 
@@ -55,7 +58,7 @@ public:
     void hilfe_Click(int Index);
     void opt_Click();
 
-    // Shows the options window modally; tests put their own in its place.
+    // Shows the options window modally; tests may put their own in its place.
     std::function<void()> showOptions;
 
     // The places the layout gave, for tests: in twips.
@@ -102,17 +105,18 @@ private:
     std::array<assets::PictureButton*, 3> picButs_{};
     std::vector<QLabel*> Feld_; // Feld_[0] is the pattern
 
-    std::array<std::array<QPixmap, core::kStages>, 2> series_;
     std::array<QPixmap, 2> symbols_;
     std::array<QPixmap, core::kTiles> tilePictures_;
     QPixmap covered_;
 
     // What is on show, so a redraw touches only what changed.
     int shownSeries_ = -1;
+    std::array<bool, core::kStages> stageLoaded_{};
     std::array<int, core::kSymbols> shownSymbol_{};
     int shownHeight_ = -1;
 
     HelpWindow* help_ = nullptr;
+    settings::OptionsDialog* options_ = nullptr;
     QSize outerWanted_;   // the outer size asked for, in pixels, until the frame is known
     QSize lastFrame_;
     bool unloaded_ = false;

@@ -1,5 +1,6 @@
 // The files the game ships with: the sound effects and word files the build writes into
 // the game's folder, and the help pages built into the program.
+#include "support/files.h"
 #include "vocabulary/englisch.h"
 #include "vocabulary/word_file.h"
 
@@ -19,6 +20,8 @@
 
 namespace {
 
+using support::readAll;
+
 const QString kGameDir = QStringLiteral(GAME_DIR);
 const QStringList kHelpPages = {
     QStringLiteral("index.html"),      QStringLiteral("play.html"),
@@ -29,12 +32,6 @@ const QStringList kHelpPages = {
 QStringList shippedWordFiles()
 {
     return QStringLiteral(WORD_FILES).split(u',', Qt::SkipEmptyParts);
-}
-
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 // What a RIFF/WAVE file says about itself, checked against the file's own size.

@@ -21,4 +21,6 @@ if command -v desktop-file-validate >/dev/null; then
     out=$(desktop-file-validate "$prefix/share/applications/$id.desktop") || fail "$out"
     [ -z "$out" ] || fail "$out"
 fi
+ls "$prefix"/lib*/frostel32/frostel32-sound.so "$prefix"/lib/*/frostel32/frostel32-sound.so 2>/dev/null | grep -q . \
+    || fail "the sound module is not installed"
 echo "1 passed, 0 failed"

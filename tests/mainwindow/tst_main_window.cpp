@@ -393,7 +393,8 @@ void MainWindowTest::motifChangeSwapsPictures()
         w->showOptions = [&] { g.g.MotivNr = 1; };
         w->opt_Click();
         stillHeld = w->findChild<QAction*>("weiter")->isEnabled() &&
-                    samePicture(w->pictureLabel(0), "eisfigur0");
+                    w->pictureLabel(g.g.Fehler)->isVisible() &&
+                    samePicture(w->pictureLabel(g.g.Fehler), QString("eisfigur%1").arg(g.g.Fehler));
         w->findChild<QAction*>("weiter")->trigger();
     });
     for (const char* k = "aple"; *k; ++k) QTest::keyClick(w.get(), *k);

@@ -1,5 +1,6 @@
 // Word files: how items are read, what the filter keeps, how the readers fail, what the
 // writer produces, and the Windows-1252 mapping underneath.
+#include "support/files.h"
 #include "vocabulary/codepage.h"
 #include "vocabulary/englisch.h"
 #include "vocabulary/word_file.h"
@@ -14,17 +15,8 @@ using vocabulary::Failure;
 
 namespace {
 
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<unreadable>");
-}
-
-bool writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
-}
+using support::readAll;
+using support::writeBytes;
 
 } // namespace
 

@@ -1,0 +1,227 @@
+#include "vocabulary/editor/vocabulary_editor.h"
+
+#include "assets/panel.h"
+#include "assets/twips.h"
+#include "vocabulary/editor/editor_rules.h"
+#include "vocabulary/word_file.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <algorithm>
+
+namespace vocabulary::editor {
+
+namespace {
+
+// An entry that sorts the way a dictionary does, not by character codes.
+class WordItem : public QListWidgetItem {
+public:
+    explicit WordItem(const QString& word) : QListWidgetItem(word) {}
+    bool operator<(const QListWidgetItem& other) const override
+    {
+        return compareWords(text(), other.text()) < 0;
+    }
+};
+
+// Changes made by code are no clicks.
+class Quiet {
+public:
+    explicit Quiet(bool& flag) : flag_(flag), was_(flag) { flag_ = true; }
+    ~Quiet() { flag_ = was_; }
+
+private:
+    bool& flag_;
+    bool was_;
+};
+
+} // namespace
+
+VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core::Toolkit& toolkit,
+                                   QWidget* parent)
+    : EditorWindow(g.WortDatei, parent), g_(g), mainList_(mainList), tk_(toolkit)
+{
+    Text1()->installEventFilter(this);
+    connect(List1(), &QListWidget::itemSelectionChanged, this, &VocabularyEditor::List1_Click);
+    connect(List1(), &QListWidget::itemClicked, this, &VocabularyEditor::List1_Click);
+    connect(List1(), &QListWidget::itemDoubleClicked, this, &VocabularyEditor::List1_DblClick);
+    connect(Hinzuf(), &QPushButton::clicked, this, &VocabularyEditor::Hinzuf_Click);
+    connect(Loesch(), &QPushButton::clicked, this, &VocabularyEditor::Loesch_Click);
+    connect(Speichern(), &QPushButton::clicked, this, &VocabularyEditor::Speichern_Click);
+    connect(OK(), &QPushButton::clicked, this, &VocabularyEditor::OK_Click);
+    connect(Abbruch(), &QPushButton::clicked, this, &VocabularyEditor::Abbruch_Click);
+}
+
+QStringList VocabularyEditor::words() const
+{
+    QStringList out;
+    out.reserve(List1()->count());
+    for (int i = 0; i < List1()->count(); ++i)
+        out << List1()->item(i)->text();
+    return out;
+}
+
+void VocabularyEditor::addEntry(const QString& word)
+{
+    List1()->addItem(new WordItem(word));
+}
+
+void VocabularyEditor::Form_Activate()
+{
+    ListeLaden();
+}
+
+void VocabularyEditor::ListeLaden()
+{
+    const Quiet quiet(quiet_);
+    List1()->clear();
+    if (g_.WortDatei.isEmpty()) g_.WortDatei = QStringLiteral("eisfig.dat");
+    ReadResult r = readWordFile(g_.WortDatei);
+    // Sorted first and put in as a block: one place search per word would cost a whole
+    // shift of the list for each of them.
+    std::stable_sort(r.words.begin(), r.words.end(),
+                     [](const QString& a, const QString& b) { return compareWords(a, b) < 0; });
+    List1()->setSortingEnabled(false);
+    for (const QString& w : r.words)
+        addEntry(w);
+    List1()->setSortingEnabled(true);
+    if (r.failure)
+        tk_.msgBox(loadFailureText(g_.WortDatei, *r.failure), core::kOkExclamation, errorTitle());
+}
+
+void VocabularyEditor::List1_Click()
+{
+    if (quiet_) return;
+    const QListWidgetItem* item = List1()->currentItem();
+    if (!item) return;
+    Text1()->setText(item->text());
+    Loesch()->setEnabled(true);
+}
+
+void VocabularyEditor::List1_DblClick()
+{
+    if (const QListWidgetItem* item = List1()->currentItem()) Text1()->setText(item->text());
+}
+
+void VocabularyEditor::Hinzuf_Click()
+{
+    if (!Text1()->text().isEmpty()) {
+        const Quiet quiet(quiet_);
+        addEntry(Text1()->text());
+        Text1()->clear();
+    }
+    // Also for an empty box: the flag only has to be up whenever the list may differ.
+    g_.Geaendert = true;
+}
+
+void VocabularyEditor::Loesch_Click()
+{
+    {
+        const Quiet quiet(quiet_);
+        for (int i = List1()->count() - 1; i >= 0; --i)
+            if (List1()->item(i)->isSelected()) delete List1()->takeItem(i);
+    }
+    Loesch()->setEnabled(false);
+    g_.Geaendert = true;
+    List1()->setFocus();
+}
+
+bool VocabularyEditor::Speichern_Click()
+{
+    const QStringList list = words();
+    // The game plays the edited list whether or not the disk takes it.
+    mainList_ = list;
+    if (const auto failure = writeWordFile(g_.WortDatei, list)) {
+        g_.Geaendert = true;
+        tk_.msgBox(saveFailureText(g_.WortDatei, *failure), core::kOkExclamation, errorTitle());
+        return false;
+    }
+    g_.Geaendert = false;
+    return true;
+}
+
+void VocabularyEditor::OK_Click()
+{
+    mainList_ = words();
+    if (g_.Geaendert &&
+        tk_.msgBox(QStringLiteral("Save changes?"), core::kYesNoQuestion, g_.WortDatei) ==
+            core::kAnswerYes &&
+        !Speichern_Click())
+        return; // stays open: the changes are still here to save elsewhere or drop
+    accept(); // hidden, still loaded
+}
+
+void VocabularyEditor::Abbruch_Click()
+{
+    g_.Geaendert = false;
+    reject();
+}
+
+bool VocabularyEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != Text1()) return EditorWindow::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        // With Ctrl the key is a command (cut, paste, select all), as its control code was.
+        if (key->modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) break;
+        const QString text = key->text();
+        return !text.isEmpty() && passingKeys(text) != text;
+    }
+    case QEvent::InputMethod: {
+        // Composed characters (dead keys, input methods) take the same filter.
+        auto* im = static_cast<QInputMethodEvent*>(event);
+        im->setCommitString(passingKeys(im->commitString()), im->replacementStart(),
+                            im->replacementLength());
+        break;
+    }
+    case QEvent::FocusIn: {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) break;
+        QLineEdit* box = Text1();
+        const int start = box->hasSelectedText() ? box->selectionStart() : box->cursorPosition();
+        // Let the box take the focus first, then replace the selection it makes its own.
+        static_cast<QObject*>(box)->event(event);
+        box->setSelection(start, selectionOnFocus(start, int(box->text().size())));
+        return true;
+    }
+    default:
+        break;
+    }
+    return EditorWindow::eventFilter(watched, event);
+}
+
+void VocabularyEditor::paintEvent(QPaintEvent* event)
+{
+    EditorWindow::paintEvent(event);
+    // Sunken panels hugging the word box and the list, read from the controls each time.
+    QPainter painter(this);
+    const QWidget* controls[] = {Text1(), List1()};
+    for (const QWidget* control : controls) {
+        const QRect r = assets::twipsOf(control);
+        assets::drawPanelLines(painter,
+                               assets::RahmenObenLinks(r.x(), r.width(), r.y(), r.height(), 1), 8);
+        assets::drawPanelLines(
+            painter, assets::RahmenUntenRechts(r.x(), r.width(), r.y(), r.height(), 1), 15);
+    }
+}
+
+void showEditor(core::Game& game, core::Toolkit& toolkit, QWidget* parent)
+{
+    VocabularyEditor* editor = nullptr;
+    if (parent) {
+        for (VocabularyEditor* e :
+             parent->findChildren<VocabularyEditor*>(Qt::FindDirectChildrenOnly))
+            if (e->serves(game.g, toolkit)) editor = e;
+    }
+    if (!editor) editor = new VocabularyEditor(game.g, game.List1, toolkit, parent);
+    editor->Form_Activate();
+    // Cancel and the close box unload the window; OK only hides it.
+    if (editor->exec() != QDialog::Accepted || !parent) delete editor;
+}
+
+} // namespace vocabulary::editor
