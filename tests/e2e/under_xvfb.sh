@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Runs a command in an X server of its own (Xvfb), for tests that need real X input.
+#   under_xvfb.sh COMMAND [ARGS...]      exit 77 (skipped) where Xvfb is missing
+set -u
+for tool in Xvfb xdpyinfo; do
+    command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
+done
+xpid=""
+trap 'kill $xpid 2>/dev/null; wait 2>/dev/null' EXIT
+for n in $(seq 140 169); do
+    [ -e /tmp/.X11-unix/X$n ] || [ -e /tmp/.X$n-lock ] && continue
+    Xvfb :$n -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 & xpid=$!
+    export DISPLAY=:$n
+    for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break 2; sleep 0.1; done
+done
+export QT_QPA_PLATFORM=xcb
+"$@"
