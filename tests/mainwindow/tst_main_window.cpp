@@ -1,5 +1,6 @@
 // The real main window, offscreen: start-up from the settings file, shutdown, the place of
 // its controls, and commands in each phase of a game.
+#include "assets/options_window.h"
 #include "assets/pictures.h"
 #include "mainwindow/main_window.h"
 #include "vocabulary/word_file.h"
@@ -11,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -31,6 +33,16 @@ void answerNextBox(QMessageBox::StandardButton button, QStringList* texts = null
         if (!box) return answerNextBox(button, texts);
         if (texts) texts->append(box->text());
         box->button(button)->click();
+    });
+}
+
+// Runs `act` on the next modal window of type T once it shows.
+template <class T> void onNextModal(std::function<void(T*)> act)
+{
+    QTimer::singleShot(10, [act] {
+        auto* window = qobject_cast<T*>(QApplication::activeModalWidget());
+        if (!window) return onNextModal<T>(act);
+        act(window);
     });
 }
 
@@ -66,6 +78,7 @@ private slots:
     void motifChangeSwapsPictures();
     void optionsChangeEndsTheWaitWithANewWord();
     void closingDuringTheWaitEndsAtOnce();
+    void theRealOptionsWindow();
     void unwritableSettingsFolder();
 
 private:
@@ -420,6 +433,33 @@ void MainWindowTest::optionsChangeEndsTheWaitWithANewWord()
     QVERIFY(!w->findChild<QAction*>("weiter")->isEnabled());
     QVERIFY(g.g.SpielLaeuft);
     QCOMPARE(g.board.Feld.size(), size_t(4));
+}
+
+void MainWindowTest::theRealOptionsWindow()
+{
+    auto w = startWindow("[Einstellungen]\r\nSound= 0\r\nMotiv= 1\r\n");
+    core::Game& g = w->game();
+    w->findChild<QAction*>("start")->trigger();
+    QTest::keyClick(w.get(), Qt::Key_Z);
+    // From the menu: the options window, where a double click on "Apple tree" closes it.
+    QString vocabulary;
+    onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
+        vocabulary = options->wortsch()->currentItem() ? options->wortsch()->currentItem()->text() : "";
+        QListWidget* motif = options->Motiv();
+        const QPoint at = motif->visualItemRect(motif->item(0)).center();
+        QTest::mouseClick(motif->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(motif->viewport(), Qt::LeftButton, {}, at);
+    });
+    w->findChild<QAction*>("opt")->trigger();
+    QCOMPARE(vocabulary, QString("frostel.dat"));
+    QCOMPARE(g.g.MotivNr, int16_t(0));
+    // The word and its miss stay; the picture is the apple tree's now; the file has it all.
+    QCOMPARE(g.g.Fehler, int16_t(1));
+    QVERIFY(samePicture(w->pictureLabel(1), "apfelbaum1"));
+    const QByteArray ini = fileBytes(ini_);
+    QVERIFY2(ini.contains("Motiv= 0\r\n"), ini.constData());
+    QVERIFY2(ini.contains("Datei=frostel.dat\r\n"), ini.constData());
+    QVERIFY2(ini.contains("Spieler4=Svenja\r\n"), ini.constData());
 }
 
 void MainWindowTest::closingDuringTheWaitEndsAtOnce()
