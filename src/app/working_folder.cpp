@@ -20,8 +20,8 @@ QString enterWorkingFolder()
         QDir::setCurrent(installed.path()); // read-only, but the game plays
         return installed.path();
     }
-    const QStringList shipped = installed.entryList(
-        {QStringLiteral("*.dat"), QStringLiteral("*.wav")}, QDir::Files);
+    const QStringList shipped =
+        installed.entryList({QStringLiteral("*.dat"), QStringLiteral("*.wav")}, QDir::Files);
     for (const QString& name : shipped) {
         const QString target = own + '/' + name;
         if (!QFile::exists(target)) QFile::copy(installed.filePath(name), target);

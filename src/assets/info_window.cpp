@@ -23,7 +23,8 @@ constexpr char kBuild[] = "\x07\x1c\x1a\x16\x15\x50\x23\x06\x01\x5a\x15\x18\x20\
 
 InfoWindow::InfoWindow(QWidget* mainWindow, QWidget* parent)
     : DesignDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), ui_(std::make_unique<Ui::Info>()),
-      mainWindow_(mainWindow) {
+      mainWindow_(mainWindow)
+{
     ui_->setupUi(this);
     applyDesign();
     label_ = {ui_->Label_0, nullptr, nullptr, ui_->Label_3};
@@ -43,7 +44,8 @@ InfoWindow::InfoWindow(QWidget* mainWindow, QWidget* parent)
 
 InfoWindow::~InfoWindow() = default;
 
-void InfoWindow::splash(QWidget* mainWindow, int milliseconds) {
+void InfoWindow::splash(QWidget* mainWindow, int milliseconds)
+{
     InfoWindow info(mainWindow, mainWindow);
     info.OK()->hide();
     info.Timer1()->setInterval(milliseconds);
@@ -51,13 +53,15 @@ void InfoWindow::splash(QWidget* mainWindow, int milliseconds) {
     info.exec();
 }
 
-void InfoWindow::about(QWidget* mainWindow) {
+void InfoWindow::about(QWidget* mainWindow)
+{
     InfoWindow info(mainWindow, mainWindow);
     info.Timer1()->stop();
     info.exec();
 }
 
-void InfoWindow::Form_Load() {
+void InfoWindow::Form_Load()
+{
     centreOnScreen(this);
     ui_->Label_0->setText(kProductText);
     ui_->Label_3->setText(QStringLiteral("For more Information see README.TXT!"));
@@ -65,24 +69,20 @@ void InfoWindow::Form_Load() {
     if (mainWindow_) mainWindow_->setWindowTitle(kProductText);
 }
 
-void InfoWindow::OK_Click() {
-    close();
-}
+void InfoWindow::OK_Click() { close(); }
 
-void InfoWindow::Timer1_Timer() {
+void InfoWindow::Timer1_Timer()
+{
     timer1_->stop();
     close();
 }
 
-QLabel* InfoWindow::Image2() const {
-    return ui_->Image2;
-}
+QLabel* InfoWindow::Image2() const { return ui_->Image2; }
 
-QPushButton* InfoWindow::OK() const {
-    return ui_->OK;
-}
+QPushButton* InfoWindow::OK() const { return ui_->OK; }
 
-QString InfoWindow::storedText(int index) {
+QString InfoWindow::storedText(int index)
+{
     QString text = index == 0
                        ? vocabulary::decodeCp1252(QByteArrayView(kCredit, sizeof kCredit - 1))
                        : vocabulary::decodeCp1252(QByteArrayView(kBuild, sizeof kBuild - 1));

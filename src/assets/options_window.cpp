@@ -8,7 +8,8 @@
 namespace assets {
 
 OptionsWindow::OptionsWindow(QWidget* parent)
-    : DesignDialog(parent), ui_(std::make_unique<Ui::Einst>()) {
+    : DesignDialog(parent), ui_(std::make_unique<Ui::Einst>())
+{
     ui_->setupUi(this);
     applyDesign();
     spielerName_ = {ui_->Spieler_Name_0, ui_->Spieler_Name_1, ui_->Spieler_Name_2,
@@ -21,8 +22,7 @@ OptionsWindow::OptionsWindow(QWidget* parent)
 
     // The three faces of a spin button; the spin buttons themselves get theirs when painted.
     const qreal dpr = devicePixelRatioF();
-    for (int i = 0; i < 3; ++i)
-        s_[i]->setPixmap(picture(QStringLiteral("s%1").arg(i), dpr));
+    for (int i = 0; i < 3; ++i) s_[i]->setPixmap(picture(QStringLiteral("s%1").arg(i), dpr));
 
     timer1_ = new QTimer(this);
     timer1_->setInterval(200);
@@ -32,7 +32,8 @@ OptionsWindow::OptionsWindow(QWidget* parent)
 
 OptionsWindow::~OptionsWindow() = default;
 
-void OptionsWindow::Form_Load() {
+void OptionsWindow::Form_Load()
+{
     setWindowTitle(QStringLiteral("Options"));
     ui_->Label_0->setText(QStringLiteral("&Players:"));
     ui_->Label_1->setText(QStringLiteral("&Tips:"));
@@ -49,32 +50,14 @@ void OptionsWindow::Form_Load() {
     centreOnScreen(this);
 }
 
-QCheckBox* OptionsWindow::Anzeige() const {
-    return ui_->Anzeige;
-}
-QCheckBox* OptionsWindow::Sound() const {
-    return ui_->Sound;
-}
-QPushButton* OptionsWindow::OK() const {
-    return ui_->OK;
-}
-QPushButton* OptionsWindow::EditButt() const {
-    return ui_->EditButt;
-}
-QLabel* OptionsWindow::Label1() const {
-    return ui_->Label1;
-}
-QLabel* OptionsWindow::Label2() const {
-    return ui_->Label2;
-}
-QLabel* OptionsWindow::Label3() const {
-    return ui_->Label3;
-}
-QListWidget* OptionsWindow::wortsch() const {
-    return ui_->wortsch;
-}
-QListWidget* OptionsWindow::Motiv() const {
-    return ui_->Motiv;
-}
+QCheckBox* OptionsWindow::Anzeige() const { return ui_->Anzeige; }
+QCheckBox* OptionsWindow::Sound() const { return ui_->Sound; }
+QPushButton* OptionsWindow::OK() const { return ui_->OK; }
+QPushButton* OptionsWindow::EditButt() const { return ui_->EditButt; }
+QLabel* OptionsWindow::Label1() const { return ui_->Label1; }
+QLabel* OptionsWindow::Label2() const { return ui_->Label2; }
+QLabel* OptionsWindow::Label3() const { return ui_->Label3; }
+QListWidget* OptionsWindow::wortsch() const { return ui_->wortsch; }
+QListWidget* OptionsWindow::Motiv() const { return ui_->Motiv; }
 
 } // namespace assets

@@ -16,8 +16,8 @@ QColor QBColor(int index)
     return colours[index & 15];
 }
 
-std::vector<PanelLine> RahmenObenLinks(float left, float width, float top, float height,
-                                       int lines, double t)
+std::vector<PanelLine> RahmenObenLinks(float left, float width, float top, float height, int lines,
+                                       double t)
 {
     const double R = double(left) + width, B = double(top) + height;
     std::vector<PanelLine> out;

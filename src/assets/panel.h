@@ -19,8 +19,8 @@ QColor QBColor(int index);
 
 // The lines of the upper and left edge: i pixels outside the rectangle for i = 1..lines.
 // The order of the numbers is left, width, top, height. t is twips per pixel.
-std::vector<PanelLine> RahmenObenLinks(float left, float width, float top, float height,
-                                       int lines, double t = 15.0);
+std::vector<PanelLine> RahmenObenLinks(float left, float width, float top, float height, int lines,
+                                       double t = 15.0);
 // The lines of the lower and right edge: i - 1 pixels outside, so the first runs on the
 // rectangle's own right and bottom coordinates.
 std::vector<PanelLine> RahmenUntenRechts(float left, float width, float top, float height,

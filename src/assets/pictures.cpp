@@ -52,7 +52,8 @@ QIcon LeanStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
     QPainter p(&arrow);
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(widget ? widget->palette().color(QPalette::ButtonText) : Qt::black, 1.5));
-    for (int x : {4, 9}) p.drawPolyline(QPolygonF({QPointF(x, 4), QPointF(x + 4, 8), QPointF(x, 12)}));
+    for (int x : {4, 9})
+        p.drawPolyline(QPolygonF({QPointF(x, 4), QPointF(x + 4, 8), QPointF(x, 12)}));
     return QIcon(arrow);
 }
 

@@ -6,9 +6,9 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QLibrary>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QLibrary>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -121,7 +121,8 @@ SoundPlayer* QtToolkit::soundPlayer()
                                QStringLiteral(FROSTEL_RUNTIME_DIR)}) {
         auto module = std::make_unique<QLibrary>(dir + QStringLiteral("/frostel32-sound"));
         if (!module->load()) continue;
-        if (auto create = reinterpret_cast<CreateSoundPlayer>(module->resolve(kCreateSoundPlayer))) {
+        if (auto create =
+                reinterpret_cast<CreateSoundPlayer>(module->resolve(kCreateSoundPlayer))) {
             player_.reset(create());
             soundModule_ = std::move(module);
             return player_.get();

@@ -12,7 +12,8 @@
 
 namespace assets {
 
-void applyPointSizes(QWidget* widget) {
+void applyPointSizes(QWidget* widget)
+{
     const QVariant size = widget->property("pointSizeF");
     if (size.isValid()) {
         QFont font = widget->font();
@@ -23,13 +24,15 @@ void applyPointSizes(QWidget* widget) {
         applyPointSizes(child);
 }
 
-QPoint centredTwips(QSize screenTwips, QSize windowTwips) {
+QPoint centredTwips(QSize screenTwips, QSize windowTwips)
+{
     // Integer division truncates towards zero, also for negative differences.
     return QPoint((screenTwips.width() - windowTwips.width()) / 2,
                   (screenTwips.height() - windowTwips.height()) / 2);
 }
 
-void centreOnScreen(QWidget* window) {
+void centreOnScreen(QWidget* window)
+{
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return;
     const QSize screenPx = screen->geometry().size();
@@ -40,19 +43,22 @@ void centreOnScreen(QWidget* window) {
 
 DesignDialog::DesignDialog(QWidget* parent, Qt::WindowFlags flags) : QDialog(parent, flags) {}
 
-QPushButton* DesignDialog::cancelButton() const {
+QPushButton* DesignDialog::cancelButton() const
+{
     for (QPushButton* button : findChildren<QPushButton*>())
         if (button->property("cancel").toBool()) return button;
     return nullptr;
 }
 
-void DesignDialog::applyDesign() {
+void DesignDialog::applyDesign()
+{
     applyTwips(this);
     applyPointSizes(this);
     setWindowIcon(assets::windowIcon());
 }
 
-void DesignDialog::keyPressEvent(QKeyEvent* event) {
+void DesignDialog::keyPressEvent(QKeyEvent* event)
+{
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
         QPushButton* button = cancelButton();
         if (button && button->isVisible() && button->isEnabled()) button->click();

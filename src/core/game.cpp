@@ -349,9 +349,10 @@ void Game::WoerterLaden()
     vocabulary::ReadResult r = vocabulary::readWordFile(g.WortDatei);
     List1 = std::move(r.words);
     if (r.failure) {
-        const QString text = r.failure->number == vocabulary::kFileNotFound
-                                 ? QStringLiteral("File ") + g.WortDatei + QStringLiteral(" not found!")
-                                 : r.failure->text;
+        const QString text =
+            r.failure->number == vocabulary::kFileNotFound
+                ? QStringLiteral("File ") + g.WortDatei + QStringLiteral(" not found!")
+                : r.failure->text;
         box(text, kOkExclamation, QStringLiteral("Error"));
     }
 }

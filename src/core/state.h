@@ -9,9 +9,9 @@
 
 namespace core {
 
-constexpr int kLetters = 26;   // tiles 0..25 take part in the game
-constexpr int kTiles = 29;     // 26..28 carry the umlauts and stay hidden
-constexpr int kStages = 10;    // pictures of a series; the 9th miss loses the word
+constexpr int kLetters = 26; // tiles 0..25 take part in the game
+constexpr int kTiles = 29;   // 26..28 carry the umlauts and stay hidden
+constexpr int kStages = 10;  // pictures of a series; the 9th miss loses the word
 constexpr int kLostAt = 9;
 constexpr int kPlayers = 4;
 constexpr int kPointsToWin = 8;

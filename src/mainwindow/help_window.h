@@ -17,7 +17,7 @@ public:
 
     // The three requests of the help menu.
     void showContents();
-    void search();          // opens the search, ready to type
+    void search(); // opens the search, ready to type
     void showHelpOnHelp();
 
     // Pages whose text holds every word of the query, as "title" and page name.

@@ -25,7 +25,9 @@ Layout Anordnen(double W, double H, int bFolge0Height, int letters)
     l.picture1 = {idiv(W - kPicture1Width, 2), idiv(H - kBFolgeTop + bFolge0Height, 2)};
     const long long feldTop = idiv(double(l.picture1.top - kBFolgeTop + bFolge0Height), 2);
     for (int i = 0; i <= letters; ++i)
-        l.feld.push_back({idiv(W - letters * core::kTilePitch, 2) + i * core::kTilePitch - core::kTilePitch, feldTop});
+        l.feld.push_back(
+            {idiv(W - letters * core::kTilePitch, 2) + i * core::kTilePitch - core::kTilePitch,
+             feldTop});
     l.picBut3 = {idiv(W - kPicBut3Width, 2), feldTop + core::kTileHeight + kGapBelowWord};
     return l;
 }

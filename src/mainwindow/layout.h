@@ -14,10 +14,10 @@ struct Twips {
 constexpr int kMinWidth = 9600, kMinHeight = 6975;
 
 struct Layout {
-    Twips bFolge;             // all ten pictures
-    Twips picBut[3];          // their tops stay as designed
+    Twips bFolge;    // all ten pictures
+    Twips picBut[3]; // their tops stay as designed
     Twips picture1;
-    std::vector<Twips> feld;  // index 0 is the hidden pattern
+    std::vector<Twips> feld; // index 0 is the hidden pattern
     Twips picBut3;
 };
 

@@ -7,8 +7,8 @@
 #include "mainwindow/help_window.h"
 #include "settings/options.h"
 #include "settings/options_dialog.h"
-#include "vocabulary/editor/vocabulary_editor.h"
 #include "ui_eisfig.h"
+#include "vocabulary/editor/vocabulary_editor.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -68,13 +68,16 @@ MainWindow::MainWindow(Setup setup)
     // The options window loads at its first showing and then stays, hidden, as the place
     // where the player edits the live options.
     options_ = new settings::OptionsDialog(game_, profile_, this);
-    options_->openEditor = [this] { vocabulary::editor::showEditor(game_, tk_, options_->window()); };
+    options_->openEditor = [this] {
+        vocabulary::editor::showEditor(game_, tk_, options_->window());
+    };
     showOptions = [this] { options_->show(); };
 
     connect(ui_->start, &QAction::triggered, this, [this] { command([this] { game_.start(); }); });
     connect(ui_->ende, &QAction::triggered, this, [this] { command([this] { game_.ende(); }); });
     connect(ui_->tip, &QAction::triggered, this, [this] { command([this] { game_.tip(); }); });
-    connect(ui_->weiter, &QAction::triggered, this, [this] { command([this] { game_.weiter(); }); });
+    connect(ui_->weiter, &QAction::triggered, this,
+            [this] { command([this] { game_.weiter(); }); });
     connect(ui_->opt, &QAction::triggered, this, [this] { opt_Click(); });
     connect(ui_->about, &QAction::triggered, this, [this] { about_Click(); });
     const std::array<QAction*, 3> help{ui_->hilfe_0, ui_->hilfe_1, ui_->hilfe_2};
@@ -213,7 +216,8 @@ void MainWindow::presetOptions()
     g.AnzSpieler = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzahl", 4));
     g.AnzTips = int16_t(profile_.GetPrivateProfileInt(kSettings, "Tips", 3));
     // What the options window reads when it loads: the vocabulary.
-    const QString stored = profile_.GetPrivateProfileString(kSettings, "Datei", QString(255, ' '), 255);
+    const QString stored =
+        profile_.GetPrivateProfileString(kSettings, "Datei", QString(255, ' '), 255);
     g.WortDatei = settings::chooseWordFile(stored, settings::wordFileRows());
     g.MotivNr = int16_t(profile_.GetPrivateProfileInt(kSettings, "Motiv", 1));
     const bool all = int16_t(profile_.GetPrivateProfileInt(kSettings, "Wiederholung", 1)) == -1;
@@ -226,9 +230,9 @@ void MainWindow::readNames()
 {
     for (int i = 0; i < core::kPlayers; ++i) {
         const QString n = QString::number(i + 1);
-        const QString name = profile_
-                                 .GetPrivateProfileString(kSettings, "Spieler" + n, "Spieler " + n, 25)
-                                 .trimmed();
+        const QString name =
+            profile_.GetPrivateProfileString(kSettings, "Spieler" + n, "Spieler " + n, 25)
+                .trimmed();
         game_.createPlayerLabel(i);
         if (!settings::isDefaultName(name)) game_.einst.Spieler_Name[i] = name;
         game_.board.Spieler[i].Caption = game_.einst.Spieler_Name[i];
@@ -258,7 +262,8 @@ void MainWindow::Form_Unload()
         profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
         profile_.WritePrivateProfileString(kWindow, "Width", settings::numberForm(tw(r.width())));
         profile_.WritePrivateProfileString(kWindow, "Height", settings::numberForm(tw(r.height())));
-        profile_.WritePrivateProfileString(kWindow, "Status", settings::numberForm(minimized ? 1 : 0));
+        profile_.WritePrivateProfileString(kWindow, "Status",
+                                           settings::numberForm(minimized ? 1 : 0));
     }
     // Ends every wait at once; the game's routines stop where they stand.
     game_.programEnded();
@@ -288,11 +293,7 @@ void MainWindow::opt_Click()
 
 void MainWindow::about_Click()
 {
-    command([this] {
-        game_.run([this] {
-            assets::InfoWindow::about(this);
-        });
-    });
+    command([this] { game_.run([this] { assets::InfoWindow::about(this); }); });
 }
 
 void MainWindow::hilfe_Click(int Index)
@@ -329,7 +330,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         auto* ke = static_cast<QKeyEvent*>(event);
         auto* w = qobject_cast<QWidget*>(watched);
         if (!w || w->window() != this) return false; // a box or another window has it
-        if (ke->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+        if (ke->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+            return false;
         if (ke->key() == Qt::Key_Return || ke->key() == Qt::Key_Enter) {
             command([this] { game_.key(13); });
             return true;
@@ -450,7 +452,8 @@ void MainWindow::sync()
         stageLoaded_.fill(false);
     }
     // Only the pictures on show are held: one stage or two, not twenty.
-    const QString stem = shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
+    const QString stem =
+        shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
     for (int s = 0; s < core::kStages; ++s) {
         if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_ >= 0) {
             B_Folge_[s]->setPixmap(assets::picture(stem.arg(s), devicePixelRatioF()));

@@ -33,8 +33,8 @@ class MainWindow : public QMainWindow {
 public:
     struct Setup {
         QString profilePath = settings::Profile::defaultPath();
-        int splashMs = 2500;                    // 0: no splash (tests)
-        std::function<void(int)> exitProgram;   // ends the process; the application's exit by default
+        int splashMs = 2500;                  // 0: no splash (tests)
+        std::function<void(int)> exitProgram; // ends the process; the application's exit by default
     };
 
     MainWindow();
@@ -49,7 +49,11 @@ public:
     // game, layout, show, and last the word list.
     void Form_Load();
     void Anordnen();
-    void MotivSetzen() { game_.MotivSetzen(); sync(); }
+    void MotivSetzen()
+    {
+        game_.MotivSetzen();
+        sync();
+    }
     // Shows what the game holds now.
     void sync();
 
@@ -72,10 +76,10 @@ public:
     QWidget* letterPanel() const;
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;     // Form_Resize
+    void resizeEvent(QResizeEvent* event) override; // Form_Resize
     void changeEvent(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;       // Form_Unload
+    void closeEvent(QCloseEvent* event) override; // Form_Unload
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -117,7 +121,7 @@ private:
 
     HelpWindow* help_ = nullptr;
     settings::OptionsDialog* options_ = nullptr;
-    QSize outerWanted_;   // the outer size asked for, in pixels, until the frame is known
+    QSize outerWanted_; // the outer size asked for, in pixels, until the frame is known
     QSize lastFrame_;
     bool unloaded_ = false;
     bool loaded_ = false;

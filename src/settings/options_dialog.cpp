@@ -30,10 +30,10 @@ constexpr int kWhite = 15, kGrey = 8;
 void drawRaisedFrame(QPainter& painter, const float (&r)[4])
 {
     const double t = assets::kTwipsPerPixel;
-    assets::drawPanelLines(painter, assets::RahmenObenLinks(r[0], r[1], r[2], r[3], 1, t),
-                           kWhite, t);
-    assets::drawPanelLines(painter, assets::RahmenUntenRechts(r[0], r[1], r[2], r[3], 1, t),
-                           kGrey, t);
+    assets::drawPanelLines(painter, assets::RahmenObenLinks(r[0], r[1], r[2], r[3], 1, t), kWhite,
+                           t);
+    assets::drawPanelLines(painter, assets::RahmenUntenRechts(r[0], r[1], r[2], r[3], 1, t), kGrey,
+                           t);
 }
 
 // The stored vocabulary as it is read back: the default is all blanks, which come back empty.
@@ -50,10 +50,7 @@ OptionsDialog::OptionsDialog(core::Game& game, Profile& profile, QWidget* parent
 {
 }
 
-OptionsDialog::~OptionsDialog()
-{
-    delete window_.data();
-}
+OptionsDialog::~OptionsDialog() { delete window_.data(); }
 
 assets::OptionsWindow* OptionsDialog::window()
 {
@@ -79,9 +76,8 @@ void OptionsDialog::Form_Load()
     for (int i = 0; i < core::kPlayers; ++i) {
         QLineEdit* box = w->Spieler_Name()[i];
         box->installEventFilter(this);
-        connect(box, &QLineEdit::textChanged, this, [this, i](const QString& text) {
-            Spieler_Name_Change(i, text);
-        });
+        connect(box, &QLineEdit::textChanged, this,
+                [this, i](const QString& text) { Spieler_Name_Change(i, text); });
         if (i < game_.g.AnzSpieler) box->setEnabled(true);
     }
     for (QRadioButton* b : w->wiederh())

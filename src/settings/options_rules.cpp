@@ -21,8 +21,8 @@ int captionNumber(const QString& caption)
         if (c < u'0' || c > u'9') break;
         digitSeen = true;
         // A caption longer than any count is no count; keep the number from running away.
-        value = std::min<long long>(value * 10 + (c.unicode() - u'0'),
-                                    std::numeric_limits<int>::max());
+        value =
+            std::min<long long>(value * 10 + (c.unicode() - u'0'), std::numeric_limits<int>::max());
     }
     return int(negative ? -value : value);
 }
@@ -50,13 +50,11 @@ bool restartsGame(OptionChange change)
     case OptionChange::Tips:
     case OptionChange::Name:
     case OptionChange::Repeat:
-    case OptionChange::Vocabulary:
-        return true;
+    case OptionChange::Vocabulary: return true;
     case OptionChange::Motif:
     case OptionChange::Sound:
     case OptionChange::Anzeige:
-    case OptionChange::EditorClosed:
-        return false;
+    case OptionChange::EditorClosed: return false;
     }
     return false;
 }

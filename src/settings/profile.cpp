@@ -65,8 +65,7 @@ QString numberForm(double value)
     QString digits;
     if (std::isfinite(value) && value == std::trunc(value) && std::fabs(value) < 1e15)
         digits = QString::number(static_cast<long long>(std::fabs(value)));
-    else
-        digits = QString::number(std::fabs(value), 'g', 7);
+    else digits = QString::number(std::fabs(value), 'g', 7);
     return (value < 0 ? QStringLiteral("-") : QStringLiteral(" ")) + digits;
 }
 

@@ -20,8 +20,8 @@ public:
     int GetPrivateProfileInt(const QString& section, const QString& key, int def) const;
     // At most size - 1 characters of the value, or of the default (its trailing blanks
     // dropped) when the key or the file is missing.
-    QString GetPrivateProfileString(const QString& section, const QString& key,
-                                    const QString& def, int size) const;
+    QString GetPrivateProfileString(const QString& section, const QString& key, const QString& def,
+                                    int size) const;
     // Adds or replaces the key, creating file and section as needed; every other line
     // stays as it was. The file is replaced whole or not at all. False on failure.
     bool WritePrivateProfileString(const QString& section, const QString& key,

@@ -45,7 +45,7 @@ void PanelTest::lineCounts()
         // The second line lies one pixel further out.
         QCOMPARE(upper[2], (PanelLine{70, 70, 430, 70}));
         QCOMPARE(lower[2], (PanelLine{70, 415, 415, 415})); // B + t
-        QCOMPARE(lower[3].x1, 415.0);                        // R + t
+        QCOMPARE(lower[3].x1, 415.0);                       // R + t
     }
 }
 

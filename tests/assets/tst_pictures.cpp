@@ -22,16 +22,13 @@ QList<Entry> readManifest()
 {
     QList<Entry> out;
     QFile f(QStringLiteral(PICTURE_MANIFEST));
-    if (!f.open(QIODevice::ReadOnly | QIODevice::Text))
-        return out;
+    if (!f.open(QIODevice::ReadOnly | QIODevice::Text)) return out;
     static const QRegularExpression ws(QStringLiteral("\\s+"));
     while (!f.atEnd()) {
         const QString line = QString::fromUtf8(f.readLine()).trimmed();
-        if (line.isEmpty() || !line.front().isLower())
-            continue;
+        if (line.isEmpty() || !line.front().isLower()) continue;
         const QStringList f = line.split(ws);
-        if (f.size() < 3)
-            continue;
+        if (f.size() < 3) continue;
         out.append({f[0], QSize(f[1].toInt(), f[2].toInt()), f.size() > 3 ? f[3] : f[0] + ".svg"});
     }
     return out;
@@ -121,8 +118,7 @@ void TestPictures::builtAtBothSizes_data()
     QTest::addColumn<QSize>("size");
     const QList<Entry> all = readManifest();
     QVERIFY2(!all.isEmpty(), "cannot read " PICTURE_MANIFEST);
-    for (const Entry& e : all)
-        QTest::newRow(qPrintable(e.name)) << e.name << e.size;
+    for (const Entry& e : all) QTest::newRow(qPrintable(e.name)) << e.name << e.size;
 }
 
 void TestPictures::builtAtBothSizes()
@@ -137,17 +133,15 @@ void TestPictures::builtAtBothSizes()
     QCOMPARE(two.size(), size * 2);
 }
 
-void TestPictures::drawnFromOwnSource_data()
-{
-    builtAtBothSizes_data();
-}
+void TestPictures::drawnFromOwnSource_data() { builtAtBothSizes_data(); }
 
 void TestPictures::drawnFromOwnSource()
 {
     QFETCH(QString, name);
     QFETCH(QSize, size);
     const QList<Entry> all = readManifest();
-    const auto it = std::find_if(all.begin(), all.end(), [&](const Entry& e) { return e.name == name; });
+    const auto it =
+        std::find_if(all.begin(), all.end(), [&](const Entry& e) { return e.name == name; });
     QVERIFY(it != all.end());
     QVERIFY2(QFileInfo::exists(pictureDir() + u'/' + it->source),
              qPrintable(name + " has no source " + it->source));
@@ -156,8 +150,11 @@ void TestPictures::drawnFromOwnSource()
         QVERIFY(!img.isNull());
         QVERIFY2(img != placeholder(size * scale), qPrintable(name + " is the stand-in picture"));
         const double share = placeholderShare(img);
-        QVERIFY2(share < 0.5, qPrintable(QStringLiteral("%1 at %2x is %3% stand-in grey and magenta")
-                                             .arg(name).arg(scale).arg(int(share * 100))));
+        QVERIFY2(share < 0.5,
+                 qPrintable(QStringLiteral("%1 at %2x is %3% stand-in grey and magenta")
+                                .arg(name)
+                                .arg(scale)
+                                .arg(int(share * 100))));
     }
 }
 
@@ -170,7 +167,8 @@ void TestPictures::grounds_data()
     const QColor window(0, 0, 128), face(192, 192, 192), black(0, 0, 0);
     for (const char* mark : {"symbol0", "symbol1", "punkt0"}) {
         QTest::addRow("%s top left", mark) << QString::fromLatin1(mark) << QPoint(0, 0) << window;
-        QTest::addRow("%s bottom right", mark) << QString::fromLatin1(mark) << QPoint(25, 26) << window;
+        QTest::addRow("%s bottom right", mark)
+            << QString::fromLatin1(mark) << QPoint(25, 26) << window;
     }
     QTest::newRow("picture1 ground") << QStringLiteral("picture1") << QPoint(300, 110) << window;
     QTest::newRow("picture1 top") << QStringLiteral("picture1") << QPoint(100, 2) << window;
@@ -188,8 +186,10 @@ void TestPictures::grounds_data()
         QTest::addRow("%s upper face", spin) << n << QPoint(3, 12) << face;
         QTest::addRow("%s lower face", spin) << n << QPoint(16, 7) << face;
     }
-    QTest::newRow("feld0 frame top") << QStringLiteral("feld0") << QPoint(12, 1) << QColor(255, 0, 0);
-    QTest::newRow("feld0 frame left") << QStringLiteral("feld0") << QPoint(1, 15) << QColor(255, 0, 0);
+    QTest::newRow("feld0 frame top")
+        << QStringLiteral("feld0") << QPoint(12, 1) << QColor(255, 0, 0);
+    QTest::newRow("feld0 frame left")
+        << QStringLiteral("feld0") << QPoint(1, 15) << QColor(255, 0, 0);
     QTest::newRow("feld0 right edge") << QStringLiteral("feld0") << QPoint(24, 15) << black;
 }
 
@@ -206,7 +206,10 @@ void TestPictures::grounds()
         const QRgb got = img.pixel(p);
         QVERIFY2(got == colour.rgba(),
                  qPrintable(QStringLiteral("%1 at %2x (%3,%4) is %5, wanted %6")
-                                .arg(name).arg(scale).arg(p.x()).arg(p.y())
+                                .arg(name)
+                                .arg(scale)
+                                .arg(p.x())
+                                .arg(p.y())
                                 .arg(rgbText(got), rgbText(colour.rgba()))));
     }
 }
@@ -237,7 +240,10 @@ void TestPictures::letterTiles()
         for (const QPoint& c : {QPoint(0, 0), QPoint(r, 0), QPoint(0, b), QPoint(r, b)}) {
             QVERIFY2(img.pixel(c) == qRgba(255, 255, 255, 255),
                      qPrintable(QStringLiteral("%1 at %2x corner (%3,%4) is %5")
-                                    .arg(name).arg(scale).arg(c.x()).arg(c.y())
+                                    .arg(name)
+                                    .arg(scale)
+                                    .arg(c.x())
+                                    .arg(c.y())
                                     .arg(rgbText(img.pixel(c)))));
         }
         int opaque = 0, dark = 0, coloured = 0;
@@ -246,8 +252,9 @@ void TestPictures::letterTiles()
                 const QRgb p = img.pixel(x, y);
                 opaque += qAlpha(p) == 255;
                 dark += qMax(qRed(p), qMax(qGreen(p), qBlue(p))) < 48;
-                coloured += qMax(qRed(p), qMax(qGreen(p), qBlue(p)))
-                                - qMin(qRed(p), qMin(qGreen(p), qBlue(p))) > 90;
+                coloured += qMax(qRed(p), qMax(qGreen(p), qBlue(p))) -
+                                qMin(qRed(p), qMin(qGreen(p), qBlue(p))) >
+                            90;
             }
         }
         const int area = img.width() * img.height();
@@ -262,14 +269,14 @@ void TestPictures::letterTilesDiffer()
     QList<QPair<QString, QImage>> tiles;
     static const QRegularExpression tile(QStringLiteral("^alpha\\d+$"));
     for (const Entry& e : readManifest()) {
-        if (tile.match(e.name).hasMatch())
-            tiles.append({e.name, resource(e.name, 1)});
+        if (tile.match(e.name).hasMatch()) tiles.append({e.name, resource(e.name, 1)});
     }
     QCOMPARE(tiles.size(), 29);
     for (qsizetype i = 0; i < tiles.size(); ++i) {
         for (qsizetype j = i + 1; j < tiles.size(); ++j) {
-            QVERIFY2(tiles[i].second != tiles[j].second,
-                     qPrintable(tiles[i].first + " and " + tiles[j].first + " are the same picture"));
+            QVERIFY2(
+                tiles[i].second != tiles[j].second,
+                qPrintable(tiles[i].first + " and " + tiles[j].first + " are the same picture"));
         }
     }
 }

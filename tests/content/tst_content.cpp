@@ -42,8 +42,14 @@ struct Wave {
     QByteArray data;
 };
 
-quint16 le16(const QByteArray& b, qsizetype at) { return qFromLittleEndian<quint16>(b.constData() + at); }
-quint32 le32(const QByteArray& b, qsizetype at) { return qFromLittleEndian<quint32>(b.constData() + at); }
+quint16 le16(const QByteArray& b, qsizetype at)
+{
+    return qFromLittleEndian<quint16>(b.constData() + at);
+}
+quint32 le32(const QByteArray& b, qsizetype at)
+{
+    return qFromLittleEndian<quint32>(b.constData() + at);
+}
 
 Wave parseWave(const QByteArray& b)
 {
@@ -67,7 +73,8 @@ Wave parseWave(const QByteArray& b)
         const quint32 size = le32(b, at + 4);
         const qsizetype body = at + 8;
         if (qsizetype(size) > b.size() - body) {
-            w.error = QStringLiteral("chunk \"%1\" runs past the end of the file").arg(QString::fromLatin1(id));
+            w.error = QStringLiteral("chunk \"%1\" runs past the end of the file")
+                          .arg(QString::fromLatin1(id));
             return w;
         }
         if (id == "fmt ") {
@@ -88,7 +95,8 @@ Wave parseWave(const QByteArray& b)
         }
         at = body + size + (size & 1);
     }
-    if (at != b.size()) w.error = QStringLiteral("chunks end at %1, the file at %2").arg(at).arg(b.size());
+    if (at != b.size())
+        w.error = QStringLiteral("chunks end at %1, the file at %2").arg(at).arg(b.size());
     else if (!haveFmt) w.error = QStringLiteral("no fmt chunk");
     else if (!haveData) w.error = QStringLiteral("no data chunk");
     return w;
@@ -163,8 +171,7 @@ private slots:
         QTest::newRow("3 miss") << 3 << 0.5;
         QTest::newRow("4 field uncovered") << 4 << 0.1;
         QTest::newRow("5 game won") << 5 << 1.4;
-        for (int n = 6; n <= 13; ++n)
-            QTest::addRow("%d word solved", n) << n << 0.6;
+        for (int n = 6; n <= 13; ++n) QTest::addRow("%d word solved", n) << n << 0.6;
     }
 
     void sound()
@@ -198,7 +205,8 @@ private slots:
         const double peakDb = 20 * std::log10(std::max(peak, 1e-9));
         const double rmsDb = 10 * std::log10(std::max(sumSq / frames, 1e-18));
         // Heard, at a modest level, and far from clipping.
-        QVERIFY2(peakDb > -9 && peakDb < -3, qPrintable(QStringLiteral("peak %1 dBFS").arg(peakDb)));
+        QVERIFY2(peakDb > -9 && peakDb < -3,
+                 qPrintable(QStringLiteral("peak %1 dBFS").arg(peakDb)));
         QVERIFY2(rmsDb > -35, qPrintable(QStringLiteral("RMS %1 dBFS").arg(rmsDb)));
 
         // Starting or stopping away from zero clicks.
@@ -217,7 +225,9 @@ private slots:
             QVERIFY2(w.error.isEmpty(), qPrintable(w.error));
             const QByteArray hash = QCryptographicHash::hash(w.data, QCryptographicHash::Sha1);
             QVERIFY2(!seen.contains(hash),
-                     qPrintable(QStringLiteral("frostl%1.wav sounds like frostl%2.wav").arg(n).arg(seen.value(hash))));
+                     qPrintable(QStringLiteral("frostl%1.wav sounds like frostl%2.wav")
+                                    .arg(n)
+                                    .arg(seen.value(hash))));
             seen.insert(hash, n);
         }
     }
@@ -247,7 +257,8 @@ private slots:
         for (const QString& w : r.words) {
             QVERIFY2(onlyLettersAtoZ(w), qPrintable(QLatin1Char('"') + w + QLatin1Char('"')));
             QVERIFY2(w.size() <= vocabulary::kMaxWordLength, qPrintable(w));
-            QVERIFY2(!seen.contains(w.toLower()), qPrintable(w + QStringLiteral(" is there twice")));
+            QVERIFY2(!seen.contains(w.toLower()),
+                     qPrintable(w + QStringLiteral(" is there twice")));
             seen.insert(w.toLower());
         }
     }
@@ -267,8 +278,8 @@ private slots:
     void themedWordFile_data()
     {
         QTest::addColumn<QString>("list");
-        const QFileInfoList lists =
-            QDir(QStringLiteral(WORD_LISTS_DIR)).entryInfoList({QStringLiteral("*.txt")}, QDir::Files);
+        const QFileInfoList lists = QDir(QStringLiteral(WORD_LISTS_DIR))
+                                        .entryInfoList({QStringLiteral("*.txt")}, QDir::Files);
         QVERIFY(lists.size() >= 3);
         for (const QFileInfo& fi : lists) QTest::newRow(qPrintable(fi.fileName())) << fi.filePath();
     }
@@ -284,7 +295,8 @@ private slots:
         source.sort(Qt::CaseInsensitive);
 
         const QString dat = QFileInfo(list).completeBaseName() + QStringLiteral(".dat");
-        QVERIFY2(shippedWordFiles().contains(dat), qPrintable(dat + QStringLiteral(" is not shipped")));
+        QVERIFY2(shippedWordFiles().contains(dat),
+                 qPrintable(dat + QStringLiteral(" is not shipped")));
         const vocabulary::ReadResult r = vocabulary::readWordFile(dat);
         QVERIFY(!r.failure);
         QCOMPARE(r.words, source);
@@ -299,7 +311,8 @@ private slots:
     void helpPage()
     {
         QFETCH(QString, page);
-        QVERIFY2(QFile::exists(QStringLiteral(":/help/") + page), qPrintable(page + QStringLiteral(" is not in the resources")));
+        QVERIFY2(QFile::exists(QStringLiteral(":/help/") + page),
+                 qPrintable(page + QStringLiteral(" is not in the resources")));
         const PageLinks p = loadHelpPage(page);
         QVERIFY2(!p.title.trimmed().isEmpty(), "no title");
         QVERIFY2(p.text.trimmed().size() > 200, qPrintable(QString::number(p.text.size())));
@@ -326,7 +339,8 @@ private slots:
         const PageLinks index = loadHelpPage(QStringLiteral("index.html"));
         for (const QString& p : kHelpPages) {
             if (p != QLatin1String("index.html"))
-                QVERIFY2(index.hrefs.contains(p), qPrintable(p + QStringLiteral(" is not in the contents")));
+                QVERIFY2(index.hrefs.contains(p),
+                         qPrintable(p + QStringLiteral(" is not in the contents")));
         }
     }
 

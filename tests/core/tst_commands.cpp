@@ -69,9 +69,12 @@ void Commands::commandsDuringAMissWaitRunAfterIt_data()
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("fields");
     QTest::addColumn<int>("words");
-    QTest::newRow("tip") << "tip" << "A____" << 1;
-    QTest::newRow("start") << "start" << "_____" << 2;
-    QTest::newRow("another letter") << "key" << "_PP__" << 1;
+    QTest::newRow("tip") << "tip"
+                         << "A____" << 1;
+    QTest::newRow("start") << "start"
+                           << "_____" << 2;
+    QTest::newRow("another letter") << "key"
+                                    << "_PP__" << 1;
 }
 
 void Commands::commandsDuringAMissWaitRunAfterIt()
@@ -108,8 +111,8 @@ void Commands::letterAfterTheNinthMissWithSoundOffIsNoSecondEnd()
     const qsizetype before = f.tk.log.size();
     f.game.key('k');
     QCOMPARE(int(f.tk.log.mid(before).count("hold")), 1); // one end of the word, one wait
-    QCOMPARE(f.game.List1.count("APPLE"), 1);               // put back once
-    QCOMPARE(f.fields(), QString("_____"));                 // and the next word is untouched
+    QCOMPARE(f.game.List1.count("APPLE"), 1);             // put back once
+    QCOMPARE(f.fields(), QString("_____"));               // and the next word is untouched
     QCOMPARE(f.game.g.Fehler, int16_t(0));
 }
 

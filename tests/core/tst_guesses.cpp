@@ -159,8 +159,15 @@ void Guesses::eighthPointEndsTheGame()
     f.game.key('o');
     f.game.key('x');
     QStringList expected;
-    if (sound) expected << "sound 4" << "sound 4" << "sound 7" << "wait 0.1" << "sound 5" << "wait 0.1";
-    expected << "box 48 Yippieh!: Helene\rwon!" << "box 36 : Once again?";
+    if (sound)
+        expected << "sound 4"
+                 << "sound 4"
+                 << "sound 7"
+                 << "wait 0.1"
+                 << "sound 5"
+                 << "wait 0.1";
+    expected << "box 48 Yippieh!: Helene\rwon!"
+             << "box 36 : Once again?";
     if (answer == core::kAnswerYes) expected << "wait 0.5";
     else expected << "end";
     QStringList got = f.tk.trace({"sound", "wait", "box", "end"});
@@ -214,14 +221,22 @@ void Guesses::keys_data()
     QTest::addColumn<QString>("fields");
     QTest::addColumn<int>("misses");
     QTest::addColumn<int>("turn");
-    QTest::newRow("lower case plays as capitals") << "a" << "A____" << 0 << 0;
-    QTest::newRow("capitals") << "AP" << "APP__" << 0 << 0;
-    QTest::newRow("a miss passes the turn") << "z" << "_____" << 1 << 1;
-    QTest::newRow("a letter again is no miss") << "zz" << "_____" << 1 << 1;
-    QTest::newRow("a hit again does nothing") << "aa" << "A____" << 0 << 0;
-    QTest::newRow("Enter in a word does nothing") << "\r" << "_____" << 0 << 0;
-    QTest::newRow("digits and blanks have no tile") << "1 9" << "_____" << 0 << 0;
-    QTest::newRow("umlauts and sharp s have no tile") << "äÖß" << "_____" << 0 << 0;
+    QTest::newRow("lower case plays as capitals") << "a"
+                                                  << "A____" << 0 << 0;
+    QTest::newRow("capitals") << "AP"
+                              << "APP__" << 0 << 0;
+    QTest::newRow("a miss passes the turn") << "z"
+                                            << "_____" << 1 << 1;
+    QTest::newRow("a letter again is no miss") << "zz"
+                                               << "_____" << 1 << 1;
+    QTest::newRow("a hit again does nothing") << "aa"
+                                              << "A____" << 0 << 0;
+    QTest::newRow("Enter in a word does nothing") << "\r"
+                                                  << "_____" << 0 << 0;
+    QTest::newRow("digits and blanks have no tile") << "1 9"
+                                                    << "_____" << 0 << 0;
+    QTest::newRow("umlauts and sharp s have no tile") << "äÖß"
+                                                      << "_____" << 0 << 0;
 }
 
 void Guesses::keys()
@@ -319,7 +334,8 @@ void Guesses::tips_data()
     QTest::addColumn<int>("misses");
     // A tip takes the first letter of the alphabet still to play that the word holds.
     QTest::newRow("one of three") << 3 << "" << 1 << "A_A_A_" << true << 0;
-    QTest::newRow("three of three, the last still uncovers") << 3 << "" << 3 << "ANANAS" << false << 0;
+    QTest::newRow("three of three, the last still uncovers")
+        << 3 << "" << 3 << "ANANAS" << false << 0;
     QTest::newRow("the only tip hides the button") << 1 << "" << 1 << "A_A_A_" << false << 0;
     QTest::newRow("played letters are skipped") << 3 << "a" << 1 << "ANANA_" << true << 0;
     QTest::newRow("a tip never misses") << 2 << "z" << 2 << "ANANA_" << false << 1;

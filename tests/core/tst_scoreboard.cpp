@@ -79,13 +79,20 @@ void Scoreboard::captionShortening_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
     // The label is 1900 twips wide: at 200 a character, nine characters fit and ten do not.
-    QTest::newRow("fits") << 200.0 << "Anna" << "Anna";
-    QTest::newRow("exactly nine fit") << 200.0 << "Friedrich" << "Friedrich";
-    QTest::newRow("ten too wide: one pass") << 200.0 << "Alexandra1" << "Alexandr.";
-    QTest::newRow("the point goes too at the next pass") << 200.0 << "Maximiliane1" << "Maximili.";
-    QTest::newRow("short names keep their length") << 300.0 << "Christina" << "Christina";
-    QTest::newRow("still too wide after the last pass") << 300.0 << "Bartholomew" << "Bartholo.";
-    QTest::newRow("empty") << 200.0 << "" << "";
+    QTest::newRow("fits") << 200.0 << "Anna"
+                          << "Anna";
+    QTest::newRow("exactly nine fit") << 200.0 << "Friedrich"
+                                      << "Friedrich";
+    QTest::newRow("ten too wide: one pass") << 200.0 << "Alexandra1"
+                                            << "Alexandr.";
+    QTest::newRow("the point goes too at the next pass") << 200.0 << "Maximiliane1"
+                                                         << "Maximili.";
+    QTest::newRow("short names keep their length") << 300.0 << "Christina"
+                                                   << "Christina";
+    QTest::newRow("still too wide after the last pass") << 300.0 << "Bartholomew"
+                                                        << "Bartholo.";
+    QTest::newRow("empty") << 200.0 << ""
+                           << "";
 }
 
 void Scoreboard::captionShortening()

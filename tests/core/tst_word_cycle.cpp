@@ -53,7 +53,8 @@ void WordCycle::init()
 void WordCycle::cleanup()
 {
     QDir::setCurrent(oldCwd_);
-    for (const QString& f : QDir(dir_.path()).entryList(QDir::Files)) QFile::remove(dir_.filePath(f));
+    for (const QString& f : QDir(dir_.path()).entryList(QDir::Files))
+        QFile::remove(dir_.filePath(f));
 }
 
 void WordCycle::firstStartDrawsWithoutAQuestion()
@@ -87,7 +88,9 @@ void WordCycle::drawGrowsThePictureAndLaysOutFields_data()
     QStringList grow;
     for (int i = 0; i < 8; ++i) grow << "wait 0.1";
     QStringList fields;
-    for (int i = 0; i < 3; ++i) fields << "sound 4" << "wait 0.1";
+    for (int i = 0; i < 3; ++i)
+        fields << "sound 4"
+               << "wait 0.1";
     QTest::newRow("sound on") << 1 << (QStringList{"sound 0"} + grow + fields);
     QTest::newRow("sound off") << 0 << grow;
 }
@@ -99,8 +102,7 @@ void WordCycle::drawGrowsThePictureAndLaysOutFields()
     GameFixture f({"owl"});
     f.game.einst.Sound = sound;
     QList<int> heights;
-    for (int i = 0; i < 8; ++i)
-        f.tk.duringWait([&] { heights << f.game.board.B_Folge0_Height; });
+    for (int i = 0; i < 8; ++i) f.tk.duringWait([&] { heights << f.game.board.B_Folge0_Height; });
     f.game.start();
     QCOMPARE(f.tk.soundsAndWaits(), expected);
     QCOMPARE(heights, (QList<int>{300, 600, 900, 1200, 1500, 1800, 2100, 2400}));

@@ -50,10 +50,14 @@ void HelpTest::search_data()
     QTest::addColumn<QString>("query");
     QTest::addColumn<QString>("page");
     QTest::addColumn<bool>("found");
-    QTest::newRow("one word") << "tip" << "play.html" << true;
-    QTest::newRow("any case") << "VOCABULARY" << "vocabulary.html" << true;
-    QTest::newRow("all words must stand") << "ctrl shortcut" << "commands.html" << true;
-    QTest::newRow("nowhere") << "xylophonequartet" << "" << false;
+    QTest::newRow("one word") << "tip"
+                              << "play.html" << true;
+    QTest::newRow("any case") << "VOCABULARY"
+                              << "vocabulary.html" << true;
+    QTest::newRow("all words must stand") << "ctrl shortcut"
+                                          << "commands.html" << true;
+    QTest::newRow("nowhere") << "xylophonequartet"
+                             << "" << false;
 }
 
 void HelpTest::search()

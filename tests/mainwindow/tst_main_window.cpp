@@ -181,7 +181,8 @@ void MainWindowTest::restartRestoresWhatWasStored()
 
 void MainWindowTest::maximisedLeavesPlaceKeysAlone()
 {
-    const QByteArray before = "[Window]\r\nLeft= 3000\r\nTop= 45\r\nWidth= 12000\r\nHeight= 8000\r\nStatus= 2\r\n";
+    const QByteArray before =
+        "[Window]\r\nLeft= 3000\r\nTop= 45\r\nWidth= 12000\r\nHeight= 8000\r\nStatus= 2\r\n";
     auto w = startWindow(before);
     QVERIFY(w->windowState() & Qt::WindowMaximized);
     w->close();
@@ -209,7 +210,8 @@ void MainWindowTest::screenBounds()
     QFETCH(int, top);
     QFETCH(bool, leftKept);
     QFETCH(bool, topKept);
-    auto w = startWindow(QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
+    auto w = startWindow(
+        QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
     const QRect s = QGuiApplication::primaryScreen()->geometry();
     const int centreLeft = int(std::lround(((tw(s.width()) - 9600) / 2) / 15.0));
     const int centreTop = int(std::lround(((tw(s.height()) - 6975) / 2) / 15.0));
@@ -219,9 +221,10 @@ void MainWindowTest::screenBounds()
 
 void MainWindowTest::namesAndOptionsFromTheFile()
 {
-    auto w = startWindow("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0\r\nWiederholung=-1\r\n"
-                         "Sound= 0\r\nAnzeige= 0\r\nSpieler1=Spieler 3\r\nSpieler2=Kim\r\n"
-                         "Datei=zoo.dat\r\n");
+    auto w =
+        startWindow("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0\r\nWiederholung=-1\r\n"
+                    "Sound= 0\r\nAnzeige= 0\r\nSpieler1=Spieler 3\r\nSpieler2=Kim\r\n"
+                    "Datei=zoo.dat\r\n");
     const core::Game& g = w->game();
     QCOMPARE(g.g.AnzSpieler, int16_t(2));
     QCOMPARE(g.g.AnzTips, int16_t(0));
@@ -244,8 +247,9 @@ void MainWindowTest::handEditedFileStartsSafely_data()
     QTest::addColumn<QByteArray>("ini");
     QTest::newRow("empty") << QByteArray("");
     QTest::newRow("binary") << QByteArray("\x00\xff\x13[Win\x00dow]\nStatus=\x01", 20);
-    QTest::newRow("out of range") << QByteArray("[Window]\r\nStatus= 7\r\nWidth=-5\r\nHeight= 99999999\r\n"
-                                                "[Einstellungen]\r\nAnzahl= 9\r\nTips=-4\r\nMotiv= 3\r\nSound= 5\r\n");
+    QTest::newRow("out of range") << QByteArray(
+        "[Window]\r\nStatus= 7\r\nWidth=-5\r\nHeight= 99999999\r\n"
+        "[Einstellungen]\r\nAnzahl= 9\r\nTips=-4\r\nMotiv= 3\r\nSound= 5\r\n");
     QTest::newRow("keys without equals, long line")
         << (QByteArray("[Einstellungen]\r\nAnzahl\r\n") + QByteArray(10240, 'z') + "\r\n");
 }
@@ -444,7 +448,8 @@ void MainWindowTest::theRealOptionsWindow()
     // From the menu: the options window, where a double click on "Apple tree" closes it.
     QString vocabulary;
     onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
-        vocabulary = options->wortsch()->currentItem() ? options->wortsch()->currentItem()->text() : "";
+        vocabulary =
+            options->wortsch()->currentItem() ? options->wortsch()->currentItem()->text() : "";
         QListWidget* motif = options->Motiv();
         const QPoint at = motif->visualItemRect(motif->item(0)).center();
         QTest::mouseClick(motif->viewport(), Qt::LeftButton, {}, at);

@@ -102,10 +102,14 @@ void QtToolkitTest::messageBoxes_data()
     const int yesNo = QMessageBox::Yes | QMessageBox::No;
     QTest::newRow("question, Yes") << 36 << "Yes" << 6 << int(QMessageBox::Question) << yesNo;
     QTest::newRow("question, No") << 36 << "No" << 7 << int(QMessageBox::Question) << yesNo;
-    QTest::newRow("question, Enter takes Yes") << 36 << "Enter" << 6 << int(QMessageBox::Question) << yesNo;
-    QTest::newRow("question, Esc takes No") << 36 << "Esc" << 7 << int(QMessageBox::Question) << yesNo;
-    QTest::newRow("exclamation, OK") << 48 << "OK" << 1 << int(QMessageBox::Warning) << int(QMessageBox::Ok);
-    QTest::newRow("exclamation, Enter") << 48 << "Enter" << 1 << int(QMessageBox::Warning) << int(QMessageBox::Ok);
+    QTest::newRow("question, Enter takes Yes")
+        << 36 << "Enter" << 6 << int(QMessageBox::Question) << yesNo;
+    QTest::newRow("question, Esc takes No")
+        << 36 << "Esc" << 7 << int(QMessageBox::Question) << yesNo;
+    QTest::newRow("exclamation, OK")
+        << 48 << "OK" << 1 << int(QMessageBox::Warning) << int(QMessageBox::Ok);
+    QTest::newRow("exclamation, Enter")
+        << 48 << "Enter" << 1 << int(QMessageBox::Warning) << int(QMessageBox::Ok);
 }
 
 void QtToolkitTest::messageBoxes()

@@ -202,8 +202,8 @@ void OptionsDialogTest::changesThatRestartTheGame_data()
     const QString names = " Marta,Helene,Matthis,Svenja";
     QTest::newRow("players") << Act([](W* w) { spin(w, 0, 18); })
                              << "3 3 1 111 englisch.dat" + names << true;
-    QTest::newRow("players at the limit") << Act([](W* w) { spin(w, 0, 2); })
-                                          << "4 3 1 111 englisch.dat" + names << false;
+    QTest::newRow("players at the limit")
+        << Act([](W* w) { spin(w, 0, 2); }) << "4 3 1 111 englisch.dat" + names << false;
     QTest::newRow("tips") << Act([](W* w) { spin(w, 1, 18); }) << "4 2 1 111 englisch.dat" + names
                           << true;
     QTest::newRow("name") << Act([](W* w) { QTest::keyClicks(w->Spieler_Name()[1], "X"); })
@@ -222,11 +222,13 @@ void OptionsDialogTest::changesThatRestartTheGame_data()
     QTest::newRow("editor") << Act([](W* w) {
         QTest::mouseClick(w->EditButt(), Qt::LeftButton);
         QCOMPARE(w->focusWidget(), w->OK());
-    }) << "4 3 1 111 englisch.dat" + names << false;
+    }) << "4 3 1 111 englisch.dat" + names
+                            << false;
     QTest::newRow("name, then a resize") << Act([](W* w) {
         QTest::keyClicks(w->Spieler_Name()[1], "X");
         w->resize(w->size() + QSize(20, 20));
-    }) << "4 3 1 111 englisch.dat Marta,HeleneX,Matthis,Svenja" << false;
+    }) << "4 3 1 111 englisch.dat Marta,HeleneX,Matthis,Svenja"
+                                         << false;
 }
 
 void OptionsDialogTest::changesThatRestartTheGame()
@@ -252,13 +254,13 @@ void OptionsDialogTest::confirmingStoresElevenKeysInOrder_data()
     const QByteArray first("englisch.dat"), second("tiere.dat"), apple(" 0"), frostel(" 1");
     QTest::newRow("OK button") << Act([](W* w) { QTest::mouseClick(w->OK(), Qt::LeftButton); })
                                << first << apple;
-    QTest::newRow("Enter")
-        << Act([](W* w) { QTest::keyClick(w->Spieler_Name()[0], Qt::Key_Return); }) << first
-        << apple;
-    QTest::newRow("double click, vocabulary") << Act([](W* w) { dblClickRow(w->wortsch(), 1); })
-                                              << second << apple;
-    QTest::newRow("double click, motif") << Act([](W* w) { dblClickRow(w->Motiv(), 1); }) << first
-                                         << frostel;
+    QTest::newRow("Enter") << Act([](W* w) {
+        QTest::keyClick(w->Spieler_Name()[0], Qt::Key_Return);
+    }) << first << apple;
+    QTest::newRow("double click, vocabulary")
+        << Act([](W* w) { dblClickRow(w->wortsch(), 1); }) << second << apple;
+    QTest::newRow("double click, motif")
+        << Act([](W* w) { dblClickRow(w->Motiv(), 1); }) << first << frostel;
 }
 
 void OptionsDialogTest::confirmingStoresElevenKeysInOrder()
@@ -286,8 +288,8 @@ void OptionsDialogTest::confirmingStoresElevenKeysInOrder()
     const QByteArray expected = "[Einstellungen]\r\nAnzahl= 2\r\nSound= 0\r\nAnzeige= 1\r\n"
                                 "Wiederholung= 0\r\nTips= 1\r\nSpieler1=Marta\r\n"
                                 "Spieler2=Helene\r\nSpieler3=Matthis\r\n"
-                                "Spieler4=Disabled but kept\r\nDatei="
-                                + datei + "\r\nMotiv=" + motiv + "\r\n";
+                                "Spieler4=Disabled but kept\r\nDatei=" +
+                                datei + "\r\nMotiv=" + motiv + "\r\n";
     QCOMPARE(f.ini(), expected);
 }
 

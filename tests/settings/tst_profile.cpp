@@ -70,11 +70,15 @@ void ProfileTest::golden()
             QVERIFY(profile.WritePrivateProfileString(f[1], f[2], f[3]));
         }
     }
-    if (golden.exists(name + ".out")) QCOMPARE(bytesOf(path), bytesOf(golden.filePath(name + ".out")));
-    else if (golden.exists(name + ".in")) QCOMPARE(bytesOf(path), bytesOf(golden.filePath(name + ".in")));
+    if (golden.exists(name + ".out"))
+        QCOMPARE(bytesOf(path), bytesOf(golden.filePath(name + ".out")));
+    else if (golden.exists(name + ".in"))
+        QCOMPARE(bytesOf(path), bytesOf(golden.filePath(name + ".in")));
     else QVERIFY(!QFile::exists(path));
     // Nothing but the file itself is left in its folder.
-    if (QFile::exists(path)) QCOMPARE(QDir(tmp.filePath("config")).entryList(QDir::Files | QDir::Hidden), QStringList{"frostel.ini"});
+    if (QFile::exists(path))
+        QCOMPARE(QDir(tmp.filePath("config")).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{"frostel.ini"});
 }
 
 void ProfileTest::numberForm_data()

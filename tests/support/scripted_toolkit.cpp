@@ -58,8 +58,7 @@ int ScriptedToolkit::msgBox(const QString& text, int type, const QString& title)
 {
     log << QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
     if (type != core::kYesNoQuestion) return core::kAnswerOk;
-    if (answers.empty())
-        throw std::runtime_error("unexpected question: " + text.toStdString());
+    if (answers.empty()) throw std::runtime_error("unexpected question: " + text.toStdString());
     const int a = answers.front();
     answers.pop_front();
     return a;

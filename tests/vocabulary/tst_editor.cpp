@@ -101,15 +101,29 @@ void EditorTest::typing_data()
     QTest::addColumn<QString>("how"); // keys, paste, compose or delete (at the start)
     QTest::addColumn<QString>("input");
     QTest::addColumn<QString>("box");
-    QTest::newRow("letters and umlauts as typed") << "keys" << "AbzÄöü" << "AbzÄöü";
-    QTest::newRow("sharp s closes up") << "keys" << "Straße" << "Strae";
-    QTest::newRow("digits, blank, punctuation") << "keys" << "a1 b,c\"d-e'f.g" << "abcdefg";
-    QTest::newRow("other accented letters") << "keys" << "caféñÿ" << "caf";
+    QTest::newRow("letters and umlauts as typed") << "keys"
+                                                  << "AbzÄöü"
+                                                  << "AbzÄöü";
+    QTest::newRow("sharp s closes up") << "keys"
+                                       << "Straße"
+                                       << "Strae";
+    QTest::newRow("digits, blank, punctuation") << "keys"
+                                                << "a1 b,c\"d-e'f.g"
+                                                << "abcdefg";
+    QTest::newRow("other accented letters") << "keys"
+                                            << "caféñÿ"
+                                            << "caf";
     QTest::newRow("twenty letters at most") << "keys" << QString(25, 'k') << QString(20, 'k');
-    QTest::newRow("paste bypasses the filter") << "paste" << "Maß, 2" << "Maß, 2";
+    QTest::newRow("paste bypasses the filter") << "paste"
+                                               << "Maß, 2"
+                                               << "Maß, 2";
     QTest::newRow("paste is cut at twenty") << "paste" << QString(30, 'p') << QString(20, 'p');
-    QTest::newRow("composed characters filtered") << "compose" << "éaÇü" << "aü";
-    QTest::newRow("the Delete key still deletes") << "delete" << "abc" << "bc";
+    QTest::newRow("composed characters filtered") << "compose"
+                                                  << "éaÇü"
+                                                  << "aü";
+    QTest::newRow("the Delete key still deletes") << "delete"
+                                                  << "abc"
+                                                  << "bc";
 }
 
 void EditorTest::typing()
@@ -148,14 +162,15 @@ void EditorTest::load_data()
         << "words.dat" << QByteArray("pear\r\nApple\r\nzebra\r\napple\r\n\xC4pfel\r\nOrange")
         << QStringList{"Äpfel", "apple", "Apple", "Orange", "pear", "zebra"} << QStringList{};
     QTest::newRow("duplicates stay, the filter drops")
-        << "words.dat" << "b,a\r\nMa\xDF\r\n\"b,a\"\r\nb\r\n" + QByteArray(21, 'x') + "\r\n"
+        << "words.dat"
+        << "b,a\r\nMa\xDF\r\n\"b,a\"\r\nb\r\n" + QByteArray(21, 'x') + "\r\n"
         << QStringList{"a", "b", "b", "b,a"} << QStringList{};
     QTest::newRow("missing file") << "words.dat" << QByteArray() << QStringList{}
                                   << QStringList{fail + "Datei words.dat nicht gefunden!"};
     QTest::newRow("zero bytes") << "words.dat" << QByteArray("") << QStringList{}
                                 << QStringList{fail + "Input past end of file"};
-    QTest::newRow("no name: eisfig.dat") << "" << QByteArray("ice") << QStringList{"ice"}
-                                         << QStringList{};
+    QTest::newRow("no name: eisfig.dat")
+        << "" << QByteArray("ice") << QStringList{"ice"} << QStringList{};
     QTest::newRow("no name and no eisfig.dat")
         << "" << QByteArray() << QStringList{}
         << QStringList{fail + "Datei eisfig.dat nicht gefunden!"};
@@ -207,7 +222,7 @@ void EditorTest::add()
     QCOMPARE(e->words(), list);
     QCOMPARE(e->Text1()->text(), QString());
     QCOMPARE(QApplication::focusWidget(), e->Text1()); // ready for the next word
-    QVERIFY(g_.Geaendert); // also for an empty box, so OK will ask
+    QVERIFY(g_.Geaendert);                             // also for an empty box, so OK will ask
     QCOMPARE(mainList_, QStringList{"leftover"});
     QCOMPARE(readAll("words.dat"), QByteArray("mouse\r\ncat\r\n"));
 }
@@ -275,12 +290,12 @@ void EditorTest::save_data()
     QTest::newRow("sorted CR LF lines in Windows-1252")
         << "words.dat" << QByteArray("zebra\r\nMa\xDF\r\nbee,ant\r\n") << "Öl"
         << QByteArray("ant\r\nbee\r\n\xD6l\r\nzebra\r\n") << "";
-    QTest::newRow("a missing file is created") << "words.dat" << QByteArray() << "kiwi"
-                                               << QByteArray("kiwi\r\n") << "";
+    QTest::newRow("a missing file is created")
+        << "words.dat" << QByteArray() << "kiwi" << QByteArray("kiwi\r\n") << "";
     QTest::newRow("a blank line comes back blank")
         << "words.dat" << QByteArray("b\r\n\r\na\r\n") << "" << QByteArray("\r\na\r\nb\r\n") << "";
-    QTest::newRow("an empty list leaves zero bytes") << "words.dat" << QByteArray("-") << ""
-                                                     << QByteArray("") << "";
+    QTest::newRow("an empty list leaves zero bytes")
+        << "words.dat" << QByteArray("-") << "" << QByteArray("") << "";
     // As root nothing is write-protected: a folder in the way is what fails.
     QTest::newRow("a folder in the file's place")
         << "words.dat" << QByteArray() << "kiwi" << QByteArray("<unreadable>")

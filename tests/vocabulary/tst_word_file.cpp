@@ -7,8 +7,8 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QStringDecoder>
+#include <QTemporaryDir>
 #include <QTest>
 
 using vocabulary::Failure;
@@ -49,25 +49,28 @@ void WordFile::items_data()
     QTest::addColumn<QStringList>("words");
     QTest::newRow("CR LF lines") << QByteArray("cat\r\ndog\r\n") << QStringList{"cat", "dog"};
     QTest::newRow("no final line end") << QByteArray("cat\r\ndog") << QStringList{"cat", "dog"};
-    QTest::newRow("a comma splits a line") << QByteArray("cat,dog\r\n") << QStringList{"cat", "dog"};
-    QTest::newRow("quotes keep a comma") << QByteArray("\"cat,dog\"\r\nemu\r\n")
-                                         << QStringList{"cat,dog", "emu"};
+    QTest::newRow("a comma splits a line")
+        << QByteArray("cat,dog\r\n") << QStringList{"cat", "dog"};
+    QTest::newRow("quotes keep a comma")
+        << QByteArray("\"cat,dog\"\r\nemu\r\n") << QStringList{"cat,dog", "emu"};
     QTest::newRow("text after a closing quote is dropped")
         << QByteArray("\"cat\"x,dog\r\n") << QStringList{"cat", "dog"};
     QTest::newRow("leading blanks dropped, inner ones kept")
         << QByteArray("   cat\r\n\tdog\r\n  a b\r\n") << QStringList{"cat", "dog", "a b"};
     QTest::newRow("a blank line is an empty item")
         << QByteArray("cat\r\n\r\ndog\r\n") << QStringList{"cat", "", "dog"};
-    QTest::newRow("a comma with nothing before it") << QByteArray(",cat\r\n") << QStringList{"", "cat"};
+    QTest::newRow("a comma with nothing before it")
+        << QByteArray(",cat\r\n") << QStringList{"", "cat"};
     QTest::newRow("end of file inside quotes") << QByteArray("\"cat") << QStringList{"cat"};
-    QTest::newRow("a stray quote ends at the line") << QByteArray("\"cat\r\ndog\r\n")
-                                                    << QStringList{"cat", "dog"};
+    QTest::newRow("a stray quote ends at the line")
+        << QByteArray("\"cat\r\ndog\r\n") << QStringList{"cat", "dog"};
     QTest::newRow("bare LF lines") << QByteArray("cat\ndog\n") << QStringList{"cat", "dog"};
     QTest::newRow("only a line end") << QByteArray("\r\n") << QStringList{""};
     QTest::newRow("only blanks") << QByteArray("   ") << QStringList{""};
     QTest::newRow("umlauts in Windows-1252")
         << QByteArray("\xE4pfel\r\nM\xD6WE\r\n") << QStringList{"äpfel", "MÖWE"};
-    QTest::newRow("the same word twice") << QByteArray("cat\r\ncat\r\n") << QStringList{"cat", "cat"};
+    QTest::newRow("the same word twice")
+        << QByteArray("cat\r\ncat\r\n") << QStringList{"cat", "cat"};
     QTest::newRow("binary bytes") << QByteArray("\x01\x02\x80,\xFF\r\n", 7)
                                   << QStringList{QString::fromUtf16(u"\u0001\u0002€"), "ÿ"};
 }
@@ -105,10 +108,13 @@ void WordFile::filter_data()
     QTest::newRow("20 letters pass, 21 do not")
         << QByteArray("abcdefghijklmnopqrst\r\nabcdefghijklmnopqrstu\r\nok\r\n")
         << QStringList{"abcdefghijklmnopqrst", "ok"};
-    QTest::newRow("sharp s is skipped") << QByteArray("Stra\xDF" "e\r\nweg\r\n") << QStringList{"weg"};
-    QTest::newRow("quotes do not count") << QByteArray("\"abcdefghijklmnopqrst\"\r\n")
-                                         << QStringList{"abcdefghijklmnopqrst"};
-    QTest::newRow("umlauts and capitals pass") << QByteArray("\xC4rger\r\n") << QStringList{"Ärger"};
+    QTest::newRow("sharp s is skipped") << QByteArray("Stra\xDF"
+                                                      "e\r\nweg\r\n")
+                                        << QStringList{"weg"};
+    QTest::newRow("quotes do not count")
+        << QByteArray("\"abcdefghijklmnopqrst\"\r\n") << QStringList{"abcdefghijklmnopqrst"};
+    QTest::newRow("umlauts and capitals pass")
+        << QByteArray("\xC4rger\r\n") << QStringList{"Ärger"};
 }
 
 void WordFile::filter()
@@ -129,8 +135,8 @@ void WordFile::failures_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("missing file") << "none" << QStringList() << 53 << "File not found";
     QTest::newRow("zero bytes") << "empty" << QStringList() << 62 << "Input past end of file";
-    QTest::newRow("a directory in its place") << "dir" << QStringList() << 75
-                                              << "Path/File access error";
+    QTest::newRow("a directory in its place")
+        << "dir" << QStringList() << 75 << "Path/File access error";
     QTest::newRow("a missing folder") << "nofolder" << QStringList() << 53 << "File not found";
 }
 
@@ -173,7 +179,8 @@ void WordFile::everyByteRoundTrips()
     QCOMPARE(text.at(0x80), QChar(u'€'));
     QCOMPARE(text.at(0x9F), QChar(u'Ÿ'));
     QCOMPARE(text.at(0xDF), QChar(u'ß'));
-    for (int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) QCOMPARE(text.at(undefined).unicode(), undefined);
+    for (int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D})
+        QCOMPARE(text.at(undefined).unicode(), undefined);
     // The same mapping as the platform's own codec.
     QStringDecoder platform("windows-1252");
     QVERIFY(platform.isValid());
@@ -191,8 +198,8 @@ void WordFile::writer_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("CR LF after every line, the last too")
         << QStringList{"cat", "dog"} << QByteArray("cat\r\ndog\r\n");
-    QTest::newRow("an empty entry is a blank line") << QStringList{"cat", "", "dog"}
-                                                    << QByteArray("cat\r\n\r\ndog\r\n");
+    QTest::newRow("an empty entry is a blank line")
+        << QStringList{"cat", "", "dog"} << QByteArray("cat\r\n\r\ndog\r\n");
     QTest::newRow("umlauts as single bytes") << QStringList{"Möwe"} << QByteArray("M\xF6we\r\n");
     QTest::newRow("an empty list leaves zero bytes") << QStringList() << QByteArray("");
 }

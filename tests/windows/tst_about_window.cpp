@@ -14,14 +14,16 @@
 
 namespace {
 
-int openInfoWindows() {
+int openInfoWindows()
+{
     int n = 0;
     for (QWidget* w : QApplication::topLevelWidgets())
         if (qobject_cast<assets::InfoWindow*>(w)) ++n;
     return n;
 }
 
-assets::InfoWindow* shownInfo() {
+assets::InfoWindow* shownInfo()
+{
     return qobject_cast<assets::InfoWindow*>(QApplication::activeModalWidget());
 }
 
@@ -30,7 +32,8 @@ assets::InfoWindow* shownInfo() {
 struct Watchdog {
     QTimer timer;
     bool fired = false;
-    explicit Watchdog(int ms) {
+    explicit Watchdog(int ms)
+    {
         timer.setSingleShot(true);
         QObject::connect(&timer, &QTimer::timeout, [this] {
             fired = true;
@@ -63,7 +66,8 @@ private slots:
     void storedTexts();
 };
 
-void AboutWindow::formLoadSetsTextsAndTitle() {
+void AboutWindow::formLoadSetsTextsAndTitle()
+{
     QMainWindow main;
     main.setWindowTitle("untitled");
     {
@@ -81,7 +85,8 @@ void AboutWindow::formLoadSetsTextsAndTitle() {
     QCOMPARE(untitled.Label()[0]->text(), QString("Frostel32 v2.31"));
 }
 
-void AboutWindow::centredTwips_data() {
+void AboutWindow::centredTwips_data()
+{
     QTest::addColumn<QSize>("screen");
     QTest::addColumn<QSize>("window");
     QTest::addColumn<QPoint>("expected");
@@ -95,14 +100,16 @@ void AboutWindow::centredTwips_data() {
     QTest::newRow("larger, odd") << QSize(12000, 9000) << QSize(12015, 9015) << QPoint(-7, -7);
 }
 
-void AboutWindow::centredTwips() {
+void AboutWindow::centredTwips()
+{
     QFETCH(QSize, screen);
     QFETCH(QSize, window);
     QFETCH(QPoint, expected);
     QCOMPARE(assets::centredTwips(screen, window), expected);
 }
 
-void AboutWindow::formLoadCentres_data() {
+void AboutWindow::formLoadCentres_data()
+{
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QPoint>("expected");
 
@@ -116,7 +123,8 @@ void AboutWindow::formLoadCentres_data() {
     QTest::newRow("larger, odd") << QSize(1001, 901) << QPoint(-100, -50);
 }
 
-void AboutWindow::formLoadCentres() {
+void AboutWindow::formLoadCentres()
+{
     QFETCH(QSize, size);
     QFETCH(QPoint, expected);
     if (QGuiApplication::primaryScreen()->geometry().size() != QSize(800, 800))
@@ -132,7 +140,8 @@ void AboutWindow::formLoadCentres() {
     QCOMPARE(info.frameGeometry().topLeft(), expected);
 }
 
-void AboutWindow::splashEndsItself_data() {
+void AboutWindow::splashEndsItself_data()
+{
     QTest::addColumn<int>("interval");
     QTest::addColumn<bool>("pressEsc");
     QTest::newRow("100 ms") << 100 << false;
@@ -140,7 +149,8 @@ void AboutWindow::splashEndsItself_data() {
     QTest::newRow("400 ms, Esc does nothing") << 400 << true;
 }
 
-void AboutWindow::splashEndsItself() {
+void AboutWindow::splashEndsItself()
+{
     QFETCH(int, interval);
     QFETCH(bool, pressEsc);
 
@@ -176,7 +186,8 @@ void AboutWindow::splashEndsItself() {
     QCOMPARE(main.windowTitle(), QString("Frostel32 v2.31"));
 }
 
-void AboutWindow::aboutStaysUntilClosed_data() {
+void AboutWindow::aboutStaysUntilClosed_data()
+{
     QTest::addColumn<QString>("how");
     QTest::newRow("Esc") << "Esc";
     QTest::newRow("Esc in the focused button") << "Esc focus";
@@ -184,7 +195,8 @@ void AboutWindow::aboutStaysUntilClosed_data() {
     QTest::newRow("OK clicked") << "click";
 }
 
-void AboutWindow::aboutStaysUntilClosed() {
+void AboutWindow::aboutStaysUntilClosed()
+{
     QFETCH(QString, how);
 
     QMainWindow main;
@@ -219,7 +231,8 @@ void AboutWindow::aboutStaysUntilClosed() {
     QCOMPARE(main.windowTitle(), QString("Frostel32 v2.31"));
 }
 
-void AboutWindow::timerEndsTheWindow() {
+void AboutWindow::timerEndsTheWindow()
+{
     assets::InfoWindow info(nullptr);
     info.show();
     info.Timer1()->setInterval(10);
@@ -228,7 +241,8 @@ void AboutWindow::timerEndsTheWindow() {
     QVERIFY(!info.Timer1()->isActive());
 }
 
-void AboutWindow::verschluesseln_data() {
+void AboutWindow::verschluesseln_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("expected");
@@ -259,7 +273,8 @@ void AboutWindow::verschluesseln_data() {
                                << "Frost";
 }
 
-void AboutWindow::verschluesseln() {
+void AboutWindow::verschluesseln()
+{
     QFETCH(QString, text);
     QFETCH(QString, key);
     QFETCH(QString, expected);
@@ -268,7 +283,8 @@ void AboutWindow::verschluesseln() {
     QCOMPARE(t, expected);
 }
 
-void AboutWindow::verschluesselnTwiceGivesTheTextBack_data() {
+void AboutWindow::verschluesselnTwiceGivesTheTextBack_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("key");
     QTest::newRow("sentence, six-letter key") << "Frostel32 melts away, one stage a miss."
@@ -282,7 +298,8 @@ void AboutWindow::verschluesselnTwiceGivesTheTextBack_data() {
         << QString::fromLatin1("\x01\x1f\x7f\x81\x9d\xff", 6) << QString::fromUtf8("€ÿ");
 }
 
-void AboutWindow::verschluesselnTwiceGivesTheTextBack() {
+void AboutWindow::verschluesselnTwiceGivesTheTextBack()
+{
     QFETCH(QString, text);
     QFETCH(QString, key);
     QString t = text;
@@ -292,21 +309,22 @@ void AboutWindow::verschluesselnTwiceGivesTheTextBack() {
     QCOMPARE(t, text);
 }
 
-void AboutWindow::storedTexts_data() {
+void AboutWindow::storedTexts_data()
+{
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("expected");
     QTest::newRow("credit") << 0 << "Pictures drawn by hand, one pixel at a time.";
     QTest::newRow("build note") << 1 << "Built for the Linux desktop with Qt 6.";
 }
 
-void AboutWindow::storedTexts() {
+void AboutWindow::storedTexts()
+{
     QFETCH(int, index);
     QFETCH(QString, expected);
     QCOMPARE(assets::InfoWindow::storedText(index), expected);
     // They stand nowhere in the window.
     assets::InfoWindow info(nullptr);
-    for (QLabel* l : info.findChildren<QLabel*>())
-        QVERIFY(!l->text().contains(expected));
+    for (QLabel* l : info.findChildren<QLabel*>()) QVERIFY(!l->text().contains(expected));
 }
 
 QTEST_MAIN(AboutWindow)

@@ -87,34 +87,37 @@ const QColor kGrey(192, 192, 192);
 const QColor kWhite(255, 255, 255);
 const QColor kNavy(0, 0, 128);
 
-std::unique_ptr<QDialog> makeWindow(const QString& window) {
+std::unique_ptr<QDialog> makeWindow(const QString& window)
+{
     if (window == "Einst") return std::make_unique<assets::OptionsWindow>();
     if (window == "WEdit") return std::make_unique<assets::EditorWindow>(QString());
     return std::make_unique<assets::InfoWindow>(nullptr);
 }
 
 // The design value in pixels, worked out here on its own: halves do not occur in the tables.
-QRect pixelsOf(int left, int top, int width, int height) {
+QRect pixelsOf(int left, int top, int width, int height)
+{
     auto px = [](int twips) { return int(std::floor(twips / 15.0 + 0.5)); };
     return QRect(px(left), px(top), px(width), px(height));
 }
 
-bool takesFocus(const char* kind) {
-    return QByteArray(kind) != "QLabel";
-}
+bool takesFocus(const char* kind) { return QByteArray(kind) != "QLabel"; }
 
-QWidget* control(QWidget* window, const QString& name) {
+QWidget* control(QWidget* window, const QString& name)
+{
     return name.isEmpty() ? window : window->findChild<QWidget*>(name);
 }
 
-QString textOf(const QWidget* w) {
+QString textOf(const QWidget* w)
+{
     if (auto* l = qobject_cast<const QLabel*>(w)) return l->text();
     if (auto* b = qobject_cast<const QAbstractButton*>(w)) return b->text();
     if (auto* e = qobject_cast<const QLineEdit*>(w)) return e->text();
     return QString();
 }
 
-void showAndActivate(QWidget* w) {
+void showAndActivate(QWidget* w)
+{
     w->show();
     QApplication::setActiveWindow(w);
     QVERIFY(QTest::qWaitForWindowActive(w));
@@ -164,7 +167,8 @@ private slots:
     void setTwipsAndTwipsOf();
 };
 
-void WindowDefinitions::windows_data() {
+void WindowDefinitions::windows_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QSize>("client");
     QTest::addColumn<QRect>("twips");
@@ -180,7 +184,8 @@ void WindowDefinitions::windows_data() {
                           << kNavy << true;
 }
 
-void WindowDefinitions::windows() {
+void WindowDefinitions::windows()
+{
     QFETCH(QString, window);
     QFETCH(QSize, client);
     QFETCH(QRect, twips);
@@ -204,7 +209,8 @@ void WindowDefinitions::windows() {
     QCOMPARE(w->size(), client);
 }
 
-void WindowDefinitions::controls_data() {
+void WindowDefinitions::controls_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("kind");
@@ -223,7 +229,8 @@ void WindowDefinitions::controls_data() {
             << c.enabled;
 }
 
-void WindowDefinitions::controls() {
+void WindowDefinitions::controls()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(QByteArray, kind);
@@ -249,13 +256,14 @@ void WindowDefinitions::controls() {
     QCOMPARE(c->isEnabled(), enabled);
 }
 
-void WindowDefinitions::everyControlIsInTheTable_data() {
+void WindowDefinitions::everyControlIsInTheTable_data()
+{
     QTest::addColumn<QString>("window");
-    for (const char* w : {"Einst", "WEdit", "Info"})
-        QTest::newRow(w) << w;
+    for (const char* w : {"Einst", "WEdit", "Info"}) QTest::newRow(w) << w;
 }
 
-void WindowDefinitions::everyControlIsInTheTable() {
+void WindowDefinitions::everyControlIsInTheTable()
+{
     QFETCH(QString, window);
     auto w = makeWindow(window);
     QStringList found;
@@ -269,7 +277,8 @@ void WindowDefinitions::everyControlIsInTheTable() {
     QCOMPARE(found, expected);
 }
 
-void WindowDefinitions::tabOrder_data() {
+void WindowDefinitions::tabOrder_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QStringList>("order");
     for (const char* window : {"Einst", "WEdit", "Info"}) {
@@ -278,13 +287,13 @@ void WindowDefinitions::tabOrder_data() {
             if (QString(window) == c.window && c.tab >= 0 && takesFocus(c.kind))
                 byTab[c.tab] = c.name;
         QStringList order;
-        for (const auto& [tab, name] : byTab)
-            order << name;
+        for (const auto& [tab, name] : byTab) order << name;
         QTest::newRow(window) << window << order;
     }
 }
 
-void WindowDefinitions::tabOrder() {
+void WindowDefinitions::tabOrder()
+{
     QFETCH(QString, window);
     QFETCH(QStringList, order);
     auto w = makeWindow(window);
@@ -311,7 +320,8 @@ void WindowDefinitions::tabOrder() {
     QCOMPARE(walked.mid(0, expected.size()), expected);
 }
 
-void WindowDefinitions::mnemonicsReachTheNextControlInTabOrder_data() {
+void WindowDefinitions::mnemonicsReachTheNextControlInTabOrder_data()
+{
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("next");
     QTest::addColumn<int>("key");
@@ -330,7 +340,8 @@ void WindowDefinitions::mnemonicsReachTheNextControlInTabOrder_data() {
     }
 }
 
-void WindowDefinitions::mnemonicsReachTheNextControlInTabOrder() {
+void WindowDefinitions::mnemonicsReachTheNextControlInTabOrder()
+{
     QFETCH(QString, label);
     QFETCH(QString, next);
     QFETCH(int, key);
@@ -348,7 +359,8 @@ void WindowDefinitions::mnemonicsReachTheNextControlInTabOrder() {
     QCOMPARE(QApplication::focusWidget()->objectName(), next);
 }
 
-void WindowDefinitions::backgrounds_data() {
+void WindowDefinitions::backgrounds_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("role");
@@ -373,7 +385,8 @@ void WindowDefinitions::backgrounds_data() {
                              << "OK" << int(QPalette::Button) << kGrey << false;
 }
 
-void WindowDefinitions::backgrounds() {
+void WindowDefinitions::backgrounds()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(int, role);
@@ -388,7 +401,8 @@ void WindowDefinitions::backgrounds() {
     QCOMPARE(c->autoFillBackground(), filled);
 }
 
-void WindowDefinitions::looks_data() {
+void WindowDefinitions::looks_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("shape");
@@ -411,7 +425,8 @@ void WindowDefinitions::looks_data() {
                                   << "Label_3" << none << plain << centre;
 }
 
-void WindowDefinitions::looks() {
+void WindowDefinitions::looks()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(int, shape);
@@ -433,7 +448,8 @@ void WindowDefinitions::looks() {
     }
 }
 
-void WindowDefinitions::pixels_data() {
+void WindowDefinitions::pixels_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QPoint>("at"); // negative: from the right or bottom edge
@@ -459,7 +475,8 @@ void WindowDefinitions::pixels_data() {
                                       << "Label_0" << QPoint(1, 1) << kWhite;
 }
 
-void WindowDefinitions::pixels() {
+void WindowDefinitions::pixels()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(QPoint, at);
@@ -474,7 +491,8 @@ void WindowDefinitions::pixels() {
     QCOMPARE(image.pixelColor(p), colour);
 }
 
-void WindowDefinitions::choices_data() {
+void WindowDefinitions::choices_data()
+{
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("checked");
     QTest::newRow("wiederh_0 selected") << "wiederh_0" << true;
@@ -483,7 +501,8 @@ void WindowDefinitions::choices_data() {
     QTest::newRow("Sound ticked") << "Sound" << true;
 }
 
-void WindowDefinitions::choices() {
+void WindowDefinitions::choices()
+{
     QFETCH(QString, name);
     QFETCH(bool, checked);
     assets::OptionsWindow w;
@@ -500,7 +519,8 @@ void WindowDefinitions::choices() {
     }
 }
 
-void WindowDefinitions::lists_data() {
+void WindowDefinitions::lists_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("sorted");
@@ -519,7 +539,8 @@ void WindowDefinitions::lists_data() {
                                  << QStringList{"Apfelbaum", "Frostel", "Schnee"};
 }
 
-void WindowDefinitions::lists() {
+void WindowDefinitions::lists()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(bool, sorted);
@@ -533,8 +554,7 @@ void WindowDefinitions::lists() {
     QCOMPARE(list->count(), 0);
     list->addItems({"Frostel", "Schnee", "Apfelbaum"});
     QStringList rows;
-    for (int i = 0; i < list->count(); ++i)
-        rows << list->item(i)->text();
+    for (int i = 0; i < list->count(); ++i) rows << list->item(i)->text();
     QCOMPARE(rows, shown);
     if (name == "wortsch") QCOMPARE(list->property("pattern").toString(), QString("*.dat"));
 
@@ -547,7 +567,8 @@ void WindowDefinitions::lists() {
     QCOMPARE(list->selectedItems().size(), sorted ? 2 : 1);
 }
 
-void WindowDefinitions::textBoxLength_data() {
+void WindowDefinitions::textBoxLength_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("maxLength");
@@ -557,7 +578,8 @@ void WindowDefinitions::textBoxLength_data() {
                                                     << "Spieler_Name_0" << 32767;
 }
 
-void WindowDefinitions::textBoxLength() {
+void WindowDefinitions::textBoxLength()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(int, maxLength);
@@ -573,7 +595,8 @@ void WindowDefinitions::textBoxLength() {
     QCOMPARE(box->text(), typed.left(maxLength));
 }
 
-void WindowDefinitions::defaultAndCancelButtons_data() {
+void WindowDefinitions::defaultAndCancelButtons_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<bool>("hideOk");
     QTest::addColumn<QString>("focus");
@@ -605,7 +628,8 @@ void WindowDefinitions::defaultAndCancelButtons_data() {
     QTest::newRow("Info Enter with OK hidden") << "Info" << true << "" << enter << "" << true;
 }
 
-void WindowDefinitions::defaultAndCancelButtons() {
+void WindowDefinitions::defaultAndCancelButtons()
+{
     QFETCH(QString, window);
     QFETCH(bool, hideOk);
     QFETCH(QString, focus);
@@ -623,12 +647,12 @@ void WindowDefinitions::defaultAndCancelButtons() {
     target->setFocus();
 
     QTest::keyClick(target, Qt::Key(key));
-    for (const auto& [name, spy] : spies)
-        QCOMPARE(spy->count(), name == pressed ? 1 : 0);
+    for (const auto& [name, spy] : spies) QCOMPARE(spy->count(), name == pressed ? 1 : 0);
     QCOMPARE(w->isVisible(), staysOpen);
 }
 
-void WindowDefinitions::pictures_data() {
+void WindowDefinitions::pictures_data()
+{
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QSize>("picture"); // 0 x 0: none
@@ -649,7 +673,8 @@ void WindowDefinitions::pictures_data() {
                                    << "Image1_0" << QSize(0, 0) << false;
 }
 
-void WindowDefinitions::pictures() {
+void WindowDefinitions::pictures()
+{
     QFETCH(QString, window);
     QFETCH(QString, name);
     QFETCH(QSize, picture);
@@ -663,7 +688,8 @@ void WindowDefinitions::pictures() {
     QCOMPARE(image->focusPolicy(), Qt::NoFocus);
 }
 
-void WindowDefinitions::controlArrays_data() {
+void WindowDefinitions::controlArrays_data()
+{
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QStringList>("expected");
 
@@ -671,8 +697,7 @@ void WindowDefinitions::controlArrays_data() {
     assets::InfoWindow info(nullptr);
     auto names = [](const auto& array) {
         QStringList out;
-        for (const QObject* o : array)
-            out << (o ? o->objectName() : QString("-"));
+        for (const QObject* o : array) out << (o ? o->objectName() : QString("-"));
         return out;
     };
     QTest::newRow("Spieler_Name") << names(e.Spieler_Name())
@@ -689,13 +714,15 @@ void WindowDefinitions::controlArrays_data() {
     QTest::newRow("Image1") << names(info.Image1()) << QStringList{"Image1_0", "Image1_1"};
 }
 
-void WindowDefinitions::controlArrays() {
+void WindowDefinitions::controlArrays()
+{
     QFETCH(QStringList, names);
     QFETCH(QStringList, expected);
     QCOMPARE(names, expected);
 }
 
-void WindowDefinitions::timers() {
+void WindowDefinitions::timers()
+{
     assets::OptionsWindow e;
     QCOMPARE(e.Timer1()->interval(), 200);
     QVERIFY(!e.Timer1()->isActive());
@@ -705,7 +732,8 @@ void WindowDefinitions::timers() {
     QVERIFY(!info.Timer1()->isActive());
 }
 
-void WindowDefinitions::twipsToPixels_data() {
+void WindowDefinitions::twipsToPixels_data()
+{
     QTest::addColumn<double>("twips");
     QTest::addColumn<int>("pixels");
     QTest::newRow("0") << 0.0 << 0;
@@ -725,13 +753,15 @@ void WindowDefinitions::twipsToPixels_data() {
     QTest::newRow("-3015") << -3015.0 << -201;
 }
 
-void WindowDefinitions::twipsToPixels() {
+void WindowDefinitions::twipsToPixels()
+{
     QFETCH(double, twips);
     QFETCH(int, pixels);
     QCOMPARE(assets::twipsToPixels(twips), pixels);
 }
 
-void WindowDefinitions::roundTrip_data() {
+void WindowDefinitions::roundTrip_data()
+{
     QTest::addColumn<int>("pixels");
     QTest::addColumn<double>("twips");
     QTest::newRow("0") << 0 << 0.0;
@@ -741,7 +771,8 @@ void WindowDefinitions::roundTrip_data() {
     QTest::newRow("-101") << -101 << -1515.0;
 }
 
-void WindowDefinitions::roundTrip() {
+void WindowDefinitions::roundTrip()
+{
     QFETCH(int, pixels);
     QFETCH(double, twips);
     QCOMPARE(assets::pixelsToTwips(pixels), twips);
@@ -750,7 +781,8 @@ void WindowDefinitions::roundTrip() {
              QRect(pixels, pixels, 1, 2));
 }
 
-void WindowDefinitions::applyTwips_data() {
+void WindowDefinitions::applyTwips_data()
+{
     QTest::addColumn<QVariant>("design");
     QTest::addColumn<QRect>("child");
     QTest::addColumn<QRect>("grandchild");
@@ -768,7 +800,8 @@ void WindowDefinitions::applyTwips_data() {
     QTest::newRow("none") << QVariant() << before << before;
 }
 
-void WindowDefinitions::applyTwips() {
+void WindowDefinitions::applyTwips()
+{
     QFETCH(QVariant, design);
     QFETCH(QRect, child);
     QFETCH(QRect, grandchild);
@@ -791,7 +824,8 @@ void WindowDefinitions::applyTwips() {
     QCOMPARE(g->geometry(), grandchild);
 }
 
-void WindowDefinitions::setTwipsAndTwipsOf() {
+void WindowDefinitions::setTwipsAndTwipsOf()
+{
     QWidget window;
     auto* c = new QWidget(&window);
     c->setGeometry(2, 3, 4, 5);

@@ -3,8 +3,8 @@
 //
 //   render_pictures render SRC.svg WIDTH HEIGHT OUT.png       (writes OUT.png and OUT@2x.png)
 //   render_pictures sheet OUT.png PNG...                      (contact sheet of the given 1x files)
-#include <QGuiApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>

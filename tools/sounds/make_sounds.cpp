@@ -17,8 +17,8 @@
 namespace {
 
 constexpr int kRate = 22050;
-constexpr double kPeak = 0.5;          // -6 dBFS
-constexpr double kEdgeFade = 0.003;    // seconds faded in and out at both ends of a file
+constexpr double kPeak = 0.5;       // -6 dBFS
+constexpr double kEdgeFade = 0.003; // seconds faded in and out at both ends of a file
 constexpr double kTwoPi = 2.0 * std::numbers::pi;
 
 struct Partial {
@@ -34,15 +34,15 @@ struct Timbre {
 };
 
 struct Note {
-    double start;           // seconds
-    double length;          // seconds, release included
-    double freq;            // Hz at the start
-    double freqEnd = 0;     // Hz at the end, for a slide; 0 keeps the pitch
+    double start;       // seconds
+    double length;      // seconds, release included
+    double freq;        // Hz at the start
+    double freqEnd = 0; // Hz at the end, for a slide; 0 keeps the pitch
     double amp = 1.0;
-    double attack = 0.005;  // seconds, raised cosine
-    double decay = 0.25;    // time constant of the exponential decay, seconds
-    double release = 0.02;  // seconds of fade at the end
-    double vibratoRate = 0; // Hz
+    double attack = 0.005;   // seconds, raised cosine
+    double decay = 0.25;     // time constant of the exponential decay, seconds
+    double release = 0.02;   // seconds of fade at the end
+    double vibratoRate = 0;  // Hz
     double vibratoDepth = 0; // fraction of the frequency
 };
 
@@ -153,8 +153,12 @@ Sound newWord()
     Sound s(0.39);
     const int notes[] = {79, 84, 88};
     for (int i = 0; i < 3; ++i)
-        s.add({.start = 0.055 * i, .length = 0.28, .freq = midi(notes[i]), .attack = 0.003,
-               .decay = 0.12, .release = 0.05},
+        s.add({.start = 0.055 * i,
+               .length = 0.28,
+               .freq = midi(notes[i]),
+               .attack = 0.003,
+               .decay = 0.12,
+               .release = 0.05},
               kBell);
     return s;
 }
@@ -163,8 +167,13 @@ Sound newWord()
 Sound tick()
 {
     Sound s(0.07);
-    s.add({.start = 0, .length = 0.07, .freq = midi(86), .freqEnd = midi(88), .attack = 0.004,
-           .decay = 0.03, .release = 0.02},
+    s.add({.start = 0,
+           .length = 0.07,
+           .freq = midi(86),
+           .freqEnd = midi(88),
+           .attack = 0.004,
+           .decay = 0.03,
+           .release = 0.02},
           kSoft);
     return s;
 }
@@ -175,11 +184,23 @@ Sound lost()
     Sound s(1.18);
     const int notes[] = {63, 62, 61};
     for (int i = 0; i < 3; ++i)
-        s.add({.start = 0.21 * i, .length = 0.23, .freq = midi(notes[i]), .amp = 0.9,
-               .attack = 0.02, .decay = 0.6, .release = 0.05},
+        s.add({.start = 0.21 * i,
+               .length = 0.23,
+               .freq = midi(notes[i]),
+               .amp = 0.9,
+               .attack = 0.02,
+               .decay = 0.6,
+               .release = 0.05},
               kMuted);
-    s.add({.start = 0.63, .length = 0.55, .freq = midi(60), .freqEnd = midi(57), .attack = 0.02,
-           .decay = 0.7, .release = 0.2, .vibratoRate = 5.5, .vibratoDepth = 0.012},
+    s.add({.start = 0.63,
+           .length = 0.55,
+           .freq = midi(60),
+           .freqEnd = midi(57),
+           .attack = 0.02,
+           .decay = 0.7,
+           .release = 0.2,
+           .vibratoRate = 5.5,
+           .vibratoDepth = 0.012},
           kMuted);
     return s;
 }
@@ -188,8 +209,13 @@ Sound lost()
 Sound miss()
 {
     Sound s(0.22);
-    s.add({.start = 0, .length = 0.22, .freq = 130, .freqEnd = 75, .attack = 0.004,
-           .decay = 0.08, .release = 0.04},
+    s.add({.start = 0,
+           .length = 0.22,
+           .freq = 130,
+           .freqEnd = 75,
+           .attack = 0.004,
+           .decay = 0.08,
+           .release = 0.04},
           kBuzz);
     s.addKnock(0, 0.06, 0.6, 400);
     return s;
@@ -199,7 +225,11 @@ Sound miss()
 Sound plink()
 {
     Sound s(0.06);
-    s.add({.start = 0, .length = 0.06, .freq = midi(91), .attack = 0.0015, .decay = 0.016,
+    s.add({.start = 0,
+           .length = 0.06,
+           .freq = midi(91),
+           .attack = 0.0015,
+           .decay = 0.016,
            .release = 0.012},
           kMarimba);
     return s;
@@ -210,16 +240,30 @@ Sound plink()
 Sound fanfare()
 {
     Sound s(1.30);
-    struct Step { double at; double len; int note; };
-    const Step steps[] = {{0.00, 0.12, 67}, {0.12, 0.12, 72}, {0.24, 0.12, 76},
-                          {0.36, 0.24, 79}, {0.60, 0.12, 76}};
+    struct Step {
+        double at;
+        double len;
+        int note;
+    };
+    const Step steps[] = {
+        {0.00, 0.12, 67}, {0.12, 0.12, 72}, {0.24, 0.12, 76}, {0.36, 0.24, 79}, {0.60, 0.12, 76}};
     for (const Step& st : steps)
-        s.add({.start = st.at, .length = st.len, .freq = midi(st.note), .attack = 0.012,
-               .decay = 0.5, .release = 0.03},
+        s.add({.start = st.at,
+               .length = st.len,
+               .freq = midi(st.note),
+               .attack = 0.012,
+               .decay = 0.5,
+               .release = 0.03},
               kBrass);
     for (int n : {60, 64, 67, 79})
-        s.add({.start = 0.72, .length = 0.58, .freq = midi(n), .amp = n == 79 ? 1.0 : 0.45,
-               .attack = 0.015, .decay = 0.45, .release = 0.22, .vibratoRate = 5.0,
+        s.add({.start = 0.72,
+               .length = 0.58,
+               .freq = midi(n),
+               .amp = n == 79 ? 1.0 : 0.45,
+               .attack = 0.015,
+               .decay = 0.45,
+               .release = 0.22,
+               .vibratoRate = 5.0,
                .vibratoDepth = n == 79 ? 0.006 : 0.0},
               kBrass);
     return s;
@@ -228,8 +272,8 @@ Sound fanfare()
 // 6-13: a word is solved - eight little tunes, so the same one does not come every time.
 struct Jingle {
     std::vector<int> notes;
-    double step;     // seconds from note to note
-    double last;     // length of the last note
+    double step; // seconds from note to note
+    double last; // length of the last note
     const Timbre* timbre;
     double decay;
     double vibrato = 0;
@@ -241,10 +285,14 @@ Sound jingle(const Jingle& j)
     Sound s(total);
     for (std::size_t i = 0; i < j.notes.size(); ++i) {
         const bool last = i + 1 == j.notes.size();
-        s.add({.start = j.step * double(i), .length = last ? j.last : j.step * 1.6,
-               .freq = midi(j.notes[i]), .attack = j.timbre == &kFlute ? 0.015 : 0.003,
-               .decay = j.decay, .release = last ? 0.08 : 0.03,
-               .vibratoRate = last ? 5.5 : 0.0, .vibratoDepth = last ? j.vibrato : 0.0},
+        s.add({.start = j.step * double(i),
+               .length = last ? j.last : j.step * 1.6,
+               .freq = midi(j.notes[i]),
+               .attack = j.timbre == &kFlute ? 0.015 : 0.003,
+               .decay = j.decay,
+               .release = last ? 0.08 : 0.03,
+               .vibratoRate = last ? 5.5 : 0.0,
+               .vibratoDepth = last ? j.vibrato : 0.0},
               *j.timbre);
     }
     return s;
@@ -285,8 +333,8 @@ bool writeWav(const std::string& path, const std::vector<std::int16_t>& samples)
     put32(b, 36 + dataBytes);
     b += "WAVEfmt ";
     put32(b, 16);
-    put16(b, 1);         // PCM
-    put16(b, 1);         // mono
+    put16(b, 1); // PCM
+    put16(b, 1); // mono
     put32(b, kRate);
     put32(b, kRate * 2); // bytes a second
     put16(b, 2);         // bytes a sample frame

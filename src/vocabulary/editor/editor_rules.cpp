@@ -64,9 +64,6 @@ QString saveFailureText(const QString& fileName, const Failure& failure)
            failure.text;
 }
 
-QString errorTitle()
-{
-    return QStringLiteral("Fehler!");
-}
+QString errorTitle() { return QStringLiteral("Fehler!"); }
 
 } // namespace vocabulary::editor

@@ -60,20 +60,13 @@ QStringList VocabularyEditor::words() const
 {
     QStringList out;
     out.reserve(List1()->count());
-    for (int i = 0; i < List1()->count(); ++i)
-        out << List1()->item(i)->text();
+    for (int i = 0; i < List1()->count(); ++i) out << List1()->item(i)->text();
     return out;
 }
 
-void VocabularyEditor::addEntry(const QString& word)
-{
-    List1()->addItem(new WordItem(word));
-}
+void VocabularyEditor::addEntry(const QString& word) { List1()->addItem(new WordItem(word)); }
 
-void VocabularyEditor::Form_Activate()
-{
-    ListeLaden();
-}
+void VocabularyEditor::Form_Activate() { ListeLaden(); }
 
 void VocabularyEditor::ListeLaden()
 {
@@ -86,8 +79,7 @@ void VocabularyEditor::ListeLaden()
     std::stable_sort(r.words.begin(), r.words.end(),
                      [](const QString& a, const QString& b) { return compareWords(a, b) < 0; });
     List1()->setSortingEnabled(false);
-    for (const QString& w : r.words)
-        addEntry(w);
+    for (const QString& w : r.words) addEntry(w);
     List1()->setSortingEnabled(true);
     if (r.failure)
         tk_.msgBox(loadFailureText(g_.WortDatei, *r.failure), core::kOkExclamation, errorTitle());
@@ -152,7 +144,7 @@ void VocabularyEditor::OK_Click()
             core::kAnswerYes &&
         !Speichern_Click())
         return; // stays open: the changes are still here to save elsewhere or drop
-    accept(); // hidden, still loaded
+    accept();   // hidden, still loaded
 }
 
 void VocabularyEditor::Abbruch_Click()
@@ -189,8 +181,7 @@ bool VocabularyEditor::eventFilter(QObject* watched, QEvent* event)
         box->setSelection(start, selectionOnFocus(start, int(box->text().size())));
         return true;
     }
-    default:
-        break;
+    default: break;
     }
     return EditorWindow::eventFilter(watched, event);
 }
