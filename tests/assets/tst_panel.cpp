@@ -10,49 +10,28 @@ using assets::PanelLine;
 class PanelTest : public QObject {
     Q_OBJECT
 private slots:
-    void workedExample();
-    void lineCounts_data();
-    void lineCounts();
-    void otherPixelSize();
+    void lines();
     void drawnPixels();
 };
 
-void PanelTest::workedExample()
+void PanelTest::lines()
 {
     // The raised frame around the names of the options window.
-    const auto upper = assets::RahmenObenLinks(200, 2100, 650, 2300, 1);
-    const auto lower = assets::RahmenUntenRechts(200, 2100, 650, 2300, 1);
-    QCOMPARE(upper, (std::vector<PanelLine>{{185, 635, 2315, 635}, {185, 635, 185, 2965}}));
-    QCOMPARE(lower, (std::vector<PanelLine>{{185, 2950, 2300, 2950}, {2300, 635, 2300, 2965}}));
-}
+    QCOMPARE(assets::RahmenObenLinks(200, 2100, 650, 2300, 1),
+             (std::vector<PanelLine>{{185, 635, 2315, 635}, {185, 635, 185, 2965}}));
+    QCOMPARE(assets::RahmenUntenRechts(200, 2100, 650, 2300, 1),
+             (std::vector<PanelLine>{{185, 2950, 2300, 2950}, {2300, 635, 2300, 2965}}));
+    QCOMPARE(assets::RahmenObenLinks(200, 2100, 650, 2300, 1, 12)[0],
+             (PanelLine{188, 638, 2312, 638})); // another pixel size
+    QVERIFY(assets::RahmenUntenRechts(200, 2100, 650, 2300, 0).empty());
 
-void PanelTest::lineCounts_data()
-{
-    QTest::addColumn<int>("lines");
-    QTest::newRow("none") << 0;
-    QTest::newRow("one") << 1;
-    QTest::newRow("two") << 2;
-}
-
-void PanelTest::lineCounts()
-{
-    QFETCH(int, lines);
-    const auto upper = assets::RahmenObenLinks(100, 300, 100, 300, lines);
-    const auto lower = assets::RahmenUntenRechts(100, 300, 100, 300, lines);
-    QCOMPARE(int(upper.size()), 2 * lines);
-    QCOMPARE(int(lower.size()), 2 * lines);
-    if (lines == 2) {
-        // The second line lies one pixel further out.
-        QCOMPARE(upper[2], (PanelLine{70, 70, 430, 70}));
-        QCOMPARE(lower[2], (PanelLine{70, 415, 415, 415})); // B + t
-        QCOMPARE(lower[3].x1, 415.0);                       // R + t
-    }
-}
-
-void PanelTest::otherPixelSize()
-{
-    const auto upper = assets::RahmenObenLinks(200, 2100, 650, 2300, 1, 12);
-    QCOMPARE(upper[0], (PanelLine{188, 638, 2312, 638}));
+    // A second line lies one pixel further out.
+    const auto up2 = assets::RahmenObenLinks(100, 300, 100, 300, 2);
+    const auto low2 = assets::RahmenUntenRechts(100, 300, 100, 300, 2);
+    QCOMPARE(up2.size(), size_t(4));
+    QCOMPARE(up2[2], (PanelLine{70, 70, 430, 70}));
+    QCOMPARE(low2[2], (PanelLine{70, 415, 415, 415}));
+    QCOMPARE(low2[3].x1, 415.0);
 }
 
 void PanelTest::drawnPixels()
