@@ -1,4 +1,4 @@
-// A word played to its end: hits, misses, points, the turn, the solution, sounds and waits.
+// A word played to its end: hits, misses, tips, points, the solution, sounds and waits.
 #include "support/scripted_toolkit.h"
 
 #include <QTest>
@@ -7,198 +7,119 @@ using support::GameFixture;
 
 namespace {
 
-QStringList repeat(const QStringList& items, int times)
+QStringList times(const QStringList& items, int n)
 {
     QStringList out;
-    for (int i = 0; i < times; ++i) out += items;
+    for (int i = 0; i < n; ++i) out += items;
     return out;
 }
 
-void type(core::Game& game, const char* letters)
+void type(core::Game& game, const QString& keys)
 {
-    for (const char* c = letters; *c; ++c) game.key(*c);
+    for (QChar c : keys) game.key(c.unicode());
 }
 
-// Types each letter of the word once: a key after the solving one would guess the next word.
-void playOut(core::Game& game)
+// The next word's draw as the log shows it: jingle, growing picture, seed, then the fields.
+QStringList draw(bool sound, int fields)
 {
-    QString letters;
-    for (QChar c : QString(game.g.Wort))
-        if (!letters.contains(c)) letters += c;
-    for (QChar c : letters) game.key(c.toLower().unicode());
+    const QStringList grow = times({"wait 0.1"}, 8) << "seed";
+    return sound ? QStringList{"sound 0"} + grow + times({"sound 4", "wait 0.1"}, fields) : grow;
 }
+
+const QStringList kTrace{"sound", "wait", "seed", "box", "end", "hold"};
 
 } // namespace
 
 class Guesses : public QObject {
     Q_OBJECT
 private slots:
-    void solvedWordSoundsAndWaits_data();
-    void solvedWordSoundsAndWaits();
-    void lostWordSoundsWaitsAndSolution_data();
-    void lostWordSoundsWaitsAndSolution();
-    void eighthPointEndsTheGame_data();
-    void eighthPointEndsTheGame();
-    void solvedJingleFollowsTheDraw_data();
-    void solvedJingleFollowsTheDraw();
+    void wordEnds_data();
+    void wordEnds();
+    void jingleFollowsTheDraw_data();
+    void jingleFollowsTheDraw();
     void keys_data();
     void keys();
-    void turnPassesOnMissesOnly();
-    void onePlayerKeepsTheTurn();
-    void lostWordGoesBackIntoTheList_data();
-    void lostWordGoesBackIntoTheList();
-    void solutionOffLeavesFieldsAsTheyWere();
     void tips_data();
     void tips();
-    void tipInWordEndedUncoversNothing();
-    void tipsBeforeTheFirstWordHideTheButton();
-    void eighthMissWithOneLetterLeftKeepsWordOpen();
+    void tipsPerWord();
     void wholeGame_data();
     void wholeGame();
 };
 
-void Guesses::solvedWordSoundsAndWaits_data()
+void Guesses::wordEnds_data()
 {
+    QTest::addColumn<QString>("keys");
     QTest::addColumn<int>("sound");
-    QTest::addColumn<QStringList>("expected");
-    // APPLE typed as a, p, l, e: P stands twice, so two sound 4 for one key.
-    QTest::newRow("sound on") << 1
-                              << (QStringList{"sound 4", "sound 4", "sound 4", "sound 4", "sound 4",
-                                              "sound 7", "wait 0.1", "wait 0.5", "sound 0"});
-    QTest::newRow("sound off") << 0 << QStringList{"wait 0.5"};
+    QTest::addColumn<QString>("atHold");
+    QTest::addColumn<int>("solution");
+    QTest::addColumn<QStringList>("trace");
+    QTest::addColumn<int>("points");
+    const QStringList held{"hold", "wait 0.5"};
+    // P stands twice in POP: two sounds for one key.
+    QTest::newRow("solved, sound on")
+        << "po" << 1 << "POP" << 1
+        << QStringList{"sound 4", "sound 4", "sound 4", "seed", "sound 7", "wait 0.1"} + held +
+               draw(true, 3)
+        << 1;
+    QTest::newRow("solved, sound off") << "po" << 0 << "POP" << 1 << held + draw(false, 3) << 1;
+    // The solution uncovers in the order of the alphabet: O, then both P.
+    QTest::newRow("lost, sound on")
+        << "abcdefghi" << 1 << "POP" << 1
+        << times({"sound 3", "wait 0.1"}, 8) + QStringList{"sound 2", "wait 1.5"} +
+               times({"wait 0.1", "sound 1"}, 3) + QStringList{"hold"} + draw(true, 3)
+        << 0;
+    QTest::newRow("lost, sound off")
+        << "abcdefghi" << 0 << "POP" << 1
+        << times({"wait 0.1"}, 3) + QStringList{"hold"} + draw(false, 3) << 0;
+    QTest::newRow("lost, solution off: fields stay")
+        << "oabcdefghi" << 0 << "_O_" << 0 << QStringList{"hold"} + draw(false, 3) << 0;
 }
 
-void Guesses::solvedWordSoundsAndWaits()
+void Guesses::wordEnds()
 {
+    QFETCH(QString, keys);
     QFETCH(int, sound);
-    QFETCH(QStringList, expected);
-    GameFixture f;
+    QFETCH(QString, atHold);
+    QFETCH(int, solution);
+    QFETCH(QStringList, trace);
+    QFETCH(int, points);
+    GameFixture f({"pop"});
     f.game.einst.Sound = sound;
+    f.game.einst.Anzeige = solution;
     f.game.start();
     f.tk.log.clear();
-    f.tk.whenHeld([&] { f.game.weiter(); });
-    type(f.game, "apl");
-    QCOMPARE(f.fields(), QString("APPL_"));
-    f.game.key('e');
-    // Cut the trace at the next word's growing picture: its first wait ends the comparison.
-    QStringList got = f.tk.soundsAndWaits();
-    const qsizetype next = got.indexOf("wait 0.5");
-    QVERIFY(next >= 0);
-    got = got.mid(0, next + (sound ? 2 : 1));
-    QCOMPARE(got, expected);
-    QCOMPARE(f.game.g.Punkte[0], int16_t(1));
-    QCOMPARE(f.visiblePoints(0), 1);
-    QVERIFY(f.game.board.Punkt[0].Visible);
-    QCOMPARE(f.game.g.AktSpieler, int16_t(0)); // the solver keeps the turn
-    QVERIFY(f.tk.log.contains("hold"));
-    QCOMPARE(f.fields(), QString("_____")); // the next word stands covered
-}
-
-void Guesses::lostWordSoundsWaitsAndSolution_data()
-{
-    QTest::addColumn<int>("sound");
-    QTest::addColumn<QStringList>("expected");
-    const QStringList misses = repeat({"sound 3", "wait 0.1"}, 8);
-    // The solution comes in the order of the alphabet: A, E, L, P, P.
-    QTest::newRow("sound on") << 1
-                              << (misses + QStringList{"sound 2", "wait 1.5"} +
-                                  repeat({"wait 0.1", "sound 1"}, 5));
-    QTest::newRow("sound off") << 0 << repeat({"wait 0.1"}, 5);
-}
-
-void Guesses::lostWordSoundsWaitsAndSolution()
-{
-    QFETCH(int, sound);
-    QFETCH(QStringList, expected);
-    GameFixture f;
-    f.game.einst.Sound = sound;
-    f.game.start();
-    f.tk.log.clear();
-    type(f.game, "bcdfghij");
-    QCOMPARE(f.visibleStage(), 8);
-    QVERIFY(f.game.board.alpha[10].Enabled); // 8 misses leave the word open
-    QStringList solutionOrder;
+    QString fieldsAtHold;
     f.tk.whenHeld([&] {
-        QCOMPARE(f.fields(), QString("APPLE"));
-        QCOMPARE(f.visibleStage(), 9);
+        fieldsAtHold = f.fields();
+        QCOMPARE(f.visibleStage(), points ? 0 : 9);
         for (int i = 0; i < core::kLetters; ++i) QVERIFY(!f.game.board.alpha[i].Enabled);
-        QVERIFY(f.game.board.weiter_Enabled);
-        QVERIFY(f.game.board.PicBut_Visible[3]);
         f.game.weiter();
     });
-    f.game.key('k');
-    QStringList got = f.tk.soundsAndWaits();
-    got = got.mid(0, got.size() - (sound ? 19 : 8)); // drop the next word's draw
-    QCOMPARE(got, expected);
-    QCOMPARE(f.game.g.Punkte[0], int16_t(0));
+    type(f.game, keys.chopped(1));
+    QVERIFY(f.game.board.alpha[25].Enabled); // still open before the last key
+    f.game.key(keys.back().unicode());
+    QCOMPARE(f.tk.trace(kTrace), trace);
+    QCOMPARE(fieldsAtHold, atHold);
+    QCOMPARE(int(f.game.g.Punkte[0]), points);
+    QCOMPARE(f.visiblePoints(0), points);
+    // The next word stands fresh.
+    QCOMPARE(f.fields(), QString("___"));
     QCOMPARE(f.visibleStage(), 0);
     QCOMPARE(f.game.g.Fehler, int16_t(0));
 }
 
-void Guesses::eighthPointEndsTheGame_data()
-{
-    QTest::addColumn<int>("sound");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("sound on, once again") << 1 << int(core::kAnswerYes);
-    QTest::newRow("sound off, once again") << 0 << int(core::kAnswerYes);
-    QTest::newRow("sound on, enough") << 1 << int(core::kAnswerNo);
-}
-
-void Guesses::eighthPointEndsTheGame()
-{
-    QFETCH(int, sound);
-    QFETCH(int, answer);
-    GameFixture f({"ox"});
-    f.game.einst.Sound = sound;
-    f.game.start();
-    f.game.g.Punkte[1] = 7;
-    f.game.key('q'); // a miss gives the turn to player 1
-    QCOMPARE(f.game.g.AktSpieler, int16_t(1));
-    f.tk.log.clear();
-    f.tk.answers.push_back(answer);
-    f.game.key('o');
-    f.game.key('x');
-    QStringList expected;
-    if (sound)
-        expected << "sound 4"
-                 << "sound 4"
-                 << "sound 7"
-                 << "wait 0.1"
-                 << "sound 5"
-                 << "wait 0.1";
-    expected << "box 48 Yippieh!: Helene\rwon!"
-             << "box 36 : Once again?";
-    if (answer == core::kAnswerYes) expected << "wait 0.5";
-    else expected << "end";
-    QStringList got = f.tk.trace({"sound", "wait", "box", "end"});
-    QCOMPARE(got.mid(0, expected.size()), expected);
-    QVERIFY(!f.tk.log.contains("hold")); // no wait for the next word
-    if (answer == core::kAnswerYes) {
-        QCOMPARE(f.game.g.Punkte[1], int16_t(0));
-        QCOMPARE(f.visiblePoints(1), 0);
-        QCOMPARE(f.game.g.AktSpieler, int16_t(0));
-        QCOMPARE(f.fields(), QString("__"));
-        QVERIFY(f.game.board.alpha[0].Enabled);
-    } else {
-        QVERIFY(f.game.ended());
-        QVERIFY(f.tk.endCalled);
-        QCOMPARE(f.tk.log.last(), QString("end"));
-    }
-}
-
-void Guesses::solvedJingleFollowsTheDraw_data()
+void Guesses::jingleFollowsTheDraw_data()
 {
     QTest::addColumn<double>("r");
     QTest::addColumn<int>("sound");
-    QTest::newRow("0 gives 7") << 0.0 << 7;
     QTest::newRow("just below a half step") << 0.0714 << 7;
     QTest::newRow("just above a half step") << 0.07143 << 8;
-    QTest::newRow("middle") << 0.5 << 10; // 10.5 ties to even
+    QTest::newRow("10.5 ties to even") << 0.5 << 10;
     QTest::newRow("13 stays") << 13.0 / 14 - 0.01 << 13;
     QTest::newRow("above 13 becomes 6") << 0.99 << 6;
 }
 
-void Guesses::solvedJingleFollowsTheDraw()
+void Guesses::jingleFollowsTheDraw()
 {
     QFETCH(double, r);
     QFETCH(int, sound);
@@ -208,46 +129,32 @@ void Guesses::solvedJingleFollowsTheDraw()
     f.tk.randoms = {r};
     f.tk.whenHeld([&] { f.game.weiter(); });
     f.game.key('i');
-    const QStringList sounds = f.tk.sounds();
-    QCOMPARE(sounds.value(1), QString("sound %1").arg(sound));
-    // Seeded from the clock right before the jingle's draw, as before each word's draw.
-    const QStringList seq = f.tk.trace({"seed", "sound"});
-    QCOMPARE(seq.mid(0, 3), (QStringList{"sound 4", "seed", QString("sound %1").arg(sound)}));
+    QCOMPARE(f.tk.sounds().value(1), QString("sound %1").arg(sound));
 }
 
 void Guesses::keys_data()
 {
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("fields");
     QTest::addColumn<int>("misses");
+    QTest::addColumn<QString>("fields");
     QTest::addColumn<int>("turn");
-    QTest::newRow("lower case plays as capitals") << "a"
-                                                  << "A____" << 0 << 0;
-    QTest::newRow("capitals") << "AP"
-                              << "APP__" << 0 << 0;
-    QTest::newRow("a miss passes the turn") << "z"
-                                            << "_____" << 1 << 1;
-    QTest::newRow("a letter again is no miss") << "zz"
-                                               << "_____" << 1 << 1;
-    QTest::newRow("a hit again does nothing") << "aa"
-                                              << "A____" << 0 << 0;
-    QTest::newRow("Enter in a word does nothing") << "\r"
-                                                  << "_____" << 0 << 0;
-    QTest::newRow("digits and blanks have no tile") << "1 9"
-                                                    << "_____" << 0 << 0;
-    QTest::newRow("umlauts and sharp s have no tile") << "äÖß"
-                                                      << "_____" << 0 << 0;
+    QTest::newRow("any case plays as capitals, a hit keeps the turn") << "aP" << 0 << "APP__" << 0;
+    QTest::newRow("a miss passes the turn") << "z" << 1 << "_____" << 1;
+    QTest::newRow("a letter again is no miss") << "zz" << 1 << "_____" << 1;
+    QTest::newRow("a hit again does nothing") << "aa" << 0 << "A____" << 0;
+    QTest::newRow("Enter in a word does nothing") << "\r" << 0 << "_____" << 0;
+    QTest::newRow("no tile: digits, blank, umlauts, sharp s") << "1 9äÖß" << 0 << "_____" << 0;
 }
 
 void Guesses::keys()
 {
     QFETCH(QString, typed);
-    QFETCH(QString, fields);
     QFETCH(int, misses);
+    QFETCH(QString, fields);
     QFETCH(int, turn);
     GameFixture f;
     f.game.start();
-    for (QChar c : typed) f.game.key(c.unicode() == '\r' ? 13 : c.unicode());
+    type(f.game, typed);
     QCOMPARE(f.fields(), fields);
     QCOMPARE(int(f.game.g.Fehler), misses);
     QCOMPARE(f.visibleStage(), misses);
@@ -255,91 +162,22 @@ void Guesses::keys()
     QVERIFY(!f.game.board.weiter_Enabled);
 }
 
-void Guesses::turnPassesOnMissesOnly()
-{
-    GameFixture f({"apple"}, 3);
-    f.game.start();
-    QCOMPARE(f.game.board.Spieler[0].BackColor, core::kRed);
-    type(f.game, "zyx");
-    QCOMPARE(f.game.g.AktSpieler, int16_t(0)); // 0, 1, 2 and round again
-    f.game.key('w');
-    QCOMPARE(f.game.g.AktSpieler, int16_t(1));
-    QCOMPARE(f.game.board.Spieler[1].BackColor, core::kRed);
-    QCOMPARE(f.game.board.Spieler[1].ForeColor, core::kWhite);
-    QCOMPARE(f.game.board.Spieler[0].BackColor, core::kBlue);
-    QCOMPARE(f.game.board.Spieler[0].ForeColor, core::kLightGrey);
-    f.game.key('a');
-    QCOMPARE(f.game.g.AktSpieler, int16_t(1));
-}
-
-void Guesses::onePlayerKeepsTheTurn()
-{
-    GameFixture f({"apple"}, 1);
-    f.game.start();
-    type(f.game, "zyx");
-    QCOMPARE(f.game.g.AktSpieler, int16_t(0));
-    QCOMPARE(f.game.board.Spieler[0].BackColor, core::kRed);
-    for (int i = 1; i < core::kPlayers; ++i) QVERIFY(!f.game.board.Spieler[i].Visible);
-}
-
-void Guesses::lostWordGoesBackIntoTheList_data()
-{
-    QTest::addColumn<bool>("allWords");
-    QTest::addColumn<QStringList>("after");
-    // Under "all words" the draw took nothing, so the word now stands twice.
-    QTest::newRow("all words") << true << QStringList{"apple", "ox", "APPLE"};
-    QTest::newRow("words not guessed") << false << QStringList{"ox", "APPLE"};
-}
-
-void Guesses::lostWordGoesBackIntoTheList()
-{
-    QFETCH(bool, allWords);
-    QFETCH(QStringList, after);
-    GameFixture f({"apple", "ox"});
-    f.game.einst.wiederh = {allWords, !allWords};
-    f.drawIndex(0);
-    f.game.start();
-    QCOMPARE(f.game.g.Wort, QString("APPLE"));
-    QStringList atHold;
-    f.tk.whenHeld([&] {
-        atHold = f.game.List1;
-        f.game.weiter();
-    });
-    f.game.einst.Sound = 0;
-    type(f.game, "bcdfghijk");
-    QCOMPARE(atHold, after);
-}
-
-void Guesses::solutionOffLeavesFieldsAsTheyWere()
-{
-    GameFixture f;
-    f.game.einst.Anzeige = 0;
-    f.game.start();
-    f.tk.whenHeld([&] {
-        QCOMPARE(f.fields(), QString("A____"));
-        f.game.weiter();
-    });
-    type(f.game, "abcdfghijk");
-    QVERIFY(f.tk.log.contains("hold"));
-    QVERIFY(f.tk.trace({"sound 1"}).isEmpty());
-}
-
 void Guesses::tips_data()
 {
     QTest::addColumn<int>("allowed");
     QTest::addColumn<QString>("played");
     QTest::addColumn<int>("tips");
-    QTest::addColumn<QString>("fields");
-    QTest::addColumn<bool>("buttonShown");
-    QTest::addColumn<int>("misses");
-    // A tip takes the first letter of the alphabet still to play that the word holds.
-    QTest::newRow("one of three") << 3 << "" << 1 << "A_A_A_" << true << 0;
-    QTest::newRow("three of three, the last still uncovers")
-        << 3 << "" << 3 << "ANANAS" << false << 0;
-    QTest::newRow("the only tip hides the button") << 1 << "" << 1 << "A_A_A_" << false << 0;
-    QTest::newRow("played letters are skipped") << 3 << "a" << 1 << "ANANA_" << true << 0;
-    QTest::newRow("a tip never misses") << 2 << "z" << 2 << "ANANA_" << false << 1;
-    QTest::newRow("no tips: nothing to take") << 0 << "" << 0 << "______" << false << 0;
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<bool>("button");
+    // A tip plays the first letter of the alphabet still open that the word holds.
+    QTest::newRow("one of three") << 3 << "" << 1 << "A" << true;
+    QTest::newRow("the last of three hides the button, still uncovers")
+        << 3 << "" << 3 << "ABC" << false;
+    QTest::newRow("played letters skipped, a tip never misses") << 3 << "bz" << 2 << "ABC" << true;
+    QTest::newRow("none allowed: no button, a tip does nothing") << 0 << "" << 2 << "" << false;
+    // Counts from a hand-edited settings file are used as read.
+    QTest::newRow("seven of seven") << 7 << "" << 7 << "ABCDEFG" << false;
+    QTest::newRow("a negative count never runs out") << -1 << "" << 5 << "ABCDE" << true;
 }
 
 void Guesses::tips()
@@ -347,130 +185,94 @@ void Guesses::tips()
     QFETCH(int, allowed);
     QFETCH(QString, played);
     QFETCH(int, tips);
-    QFETCH(QString, fields);
-    QFETCH(bool, buttonShown);
-    QFETCH(int, misses);
-    GameFixture f({"ananas"});
+    QFETCH(QString, shown);
+    QFETCH(bool, button);
+    GameFixture f({"abcdefghijklmnop"});
     f.game.g.AnzTips = int16_t(allowed);
     f.game.start();
-    QCOMPARE(f.game.board.tip_Enabled, allowed != 0);
-    for (QChar c : played) f.game.key(c.unicode());
-    const int16_t turn = f.game.g.AktSpieler;
-    f.tk.whenHeld([&] { f.game.weiter(); });
-    for (int i = 0; i < tips; ++i) f.game.tip();
-    if (fields == "ANANAS") {
-        // The tip solved the word for the player at turn.
-        QCOMPARE(f.game.g.Punkte[turn], int16_t(1));
-        QVERIFY(f.tk.log.contains("hold"));
-    } else {
-        QCOMPARE(f.fields(), fields);
-    }
-    QCOMPARE(int(f.game.g.Fehler), fields == "ANANAS" ? 0 : misses);
-    QCOMPARE(f.game.g.AktSpieler, turn);
-    if (fields != "ANANAS") {
-        QCOMPARE(f.game.board.PicBut_Visible[2], buttonShown);
-        QCOMPARE(f.game.board.tip_Enabled, buttonShown);
-    }
+    type(f.game, played);
+    const core::Global before = f.game.g;
+    // Both ways in: the menu entry and the picture button.
+    for (int i = 0; i < tips; ++i) i % 2 ? f.game.picBut(2) : f.game.tip();
+    QCOMPARE(f.fields(), shown.leftJustified(16, '_'));
+    QCOMPARE(f.game.board.PicBut_Visible[2], button);
+    QCOMPARE(f.game.board.tip_Enabled, button);
+    QCOMPARE(f.game.g.Fehler, before.Fehler);
+    QCOMPARE(f.game.g.AktSpieler, before.AktSpieler);
 }
 
-void Guesses::tipInWordEndedUncoversNothing()
+void Guesses::tipsPerWord()
 {
     GameFixture f({"ox"});
-    f.game.start();
-    f.tk.whenHeld([&] {
-        const QString before = f.fields();
-        const auto points = f.game.g.Punkte;
-        f.game.picBut(2);
-        QCOMPARE(f.fields(), before);
-        QCOMPARE(f.game.g.Punkte, points);
-        QCOMPARE(f.game.g.TipZaehler, int16_t(1));
-        QVERIFY(f.game.board.weiter_Enabled);
-        f.game.weiter();
-    });
-    type(f.game, "ox");
-    QVERIFY(f.tk.log.contains("hold"));
-    QCOMPARE(f.game.g.TipZaehler, int16_t(0)); // the next word starts its count afresh
-}
-
-void Guesses::tipsBeforeTheFirstWordHideTheButton()
-{
-    GameFixture f;
-    QVERIFY(!f.game.board.tip_Enabled);
-    f.game.tip(); // the menu entry is disabled: nothing
-    QCOMPARE(f.game.g.TipZaehler, int16_t(0));
-    for (int i = 0; i < 3; ++i) f.game.picBut(2);
-    QVERIFY(!f.game.board.PicBut_Visible[2]);
-    f.game.picBut(2); // hidden: raises no click
-    QCOMPARE(f.game.g.TipZaehler, int16_t(0));
-    f.game.start();
-    QVERIFY(f.game.board.PicBut_Visible[2]);
-    QVERIFY(f.game.board.tip_Enabled);
-}
-
-void Guesses::eighthMissWithOneLetterLeftKeepsWordOpen()
-{
-    GameFixture f;
+    f.game.g.AnzTips = 3;
+    f.game.einst.Anzeige = 0;
     f.game.einst.Sound = 0;
     f.game.start();
-    type(f.game, "apl");
-    type(f.game, "bcdfghij");
-    QCOMPARE(f.game.g.Fehler, int16_t(8));
-    QCOMPARE(f.fields(), QString("APPL_"));
+    f.game.tip();
+    QCOMPARE(f.fields(), QString("O_"));
     f.tk.whenHeld([&] {
-        QCOMPARE(f.visibleStage(), 9);
-        QCOMPARE(f.fields(), QString("APPLE")); // shown by the solution
+        f.game.picBut(2); // the word is lost: the tip counts but uncovers nothing
+        QCOMPARE(f.fields(), QString("O_"));
+        QCOMPARE(f.game.g.Fehler, int16_t(9));
         f.game.weiter();
     });
-    f.game.key('k');
+    type(f.game, "abcdefghi");
     QVERIFY(f.tk.log.contains("hold"));
-    QCOMPARE(f.game.g.Punkte[0] + f.game.g.Punkte[1], 0);
+    // The next word counts afresh: two tips used before leave the button after one more.
+    f.game.tip();
+    QCOMPARE(f.fields(), QString("O_"));
+    QVERIFY(f.game.board.PicBut_Visible[2]);
 }
 
 void Guesses::wholeGame_data()
 {
+    QTest::addColumn<int>("sound");
     QTest::addColumn<int>("answer");
-    QTest::newRow("once again: yes") << int(core::kAnswerYes);
-    QTest::newRow("once again: no") << int(core::kAnswerNo);
+    QTest::newRow("sound on, once again: yes") << 1 << int(core::kAnswerYes);
+    QTest::newRow("sound off, once again: yes") << 0 << int(core::kAnswerYes);
+    QTest::newRow("sound on, once again: no") << 1 << int(core::kAnswerNo);
 }
 
 void Guesses::wholeGame()
 {
+    QFETCH(int, sound);
     QFETCH(int, answer);
-    GameFixture f({"ox", "ant", "bee"}, 2);
-    f.game.einst.wiederh = {true, false};
-    f.game.einst.Sound = 0;
+    const bool yes = answer == core::kAnswerYes;
+    GameFixture f({"ox"}, 2);
+    f.game.einst.Sound = sound;
     f.game.start();
-    QVERIFY(f.game.g.SpielLaeuft);
     QVERIFY(f.tk.boxes().isEmpty()); // the first start asks nothing
+    f.game.key('q');                 // player 1 at turn: from here on every word goes to player 1
     for (int word = 0; word < 7; ++word) {
-        f.game.key('z'); // player 0 misses, player 1 misses, player 0 plays the word out
-        f.game.key('y');
-        QCOMPARE(f.game.g.AktSpieler, int16_t(0));
         f.tk.whenHeld([&] { f.game.key(13); });
-        playOut(f.game);
+        type(f.game, "zyox");
         QVERIFY(!f.game.board.weiter_Enabled);
     }
-    QCOMPARE(f.game.g.Punkte[0], int16_t(7));
-    QCOMPARE(f.visiblePoints(0), 7);
+    QCOMPARE(f.game.g.Punkte[1], int16_t(7));
+    QCOMPARE(f.visiblePoints(1), 7);
     f.tk.answers.push_back(answer);
     f.tk.log.clear();
-    playOut(f.game);
-    QCOMPARE(f.tk.boxes(), (QStringList{"box 48 Yippieh!: Marta\rwon!", "box 36 : Once again?"}));
-    if (answer == core::kAnswerYes) {
-        QVERIFY(!f.game.ended());
-        QCOMPARE(f.visiblePoints(0), 0);
-        QVERIFY(f.game.g.SpielLaeuft);
-        // Start now asks, since a game has been started.
+    type(f.game, "zyox");
+    // No wait for the next word: the questions come at once.
+    QStringList expected;
+    if (sound)
+        expected =
+            times({"sound 3", "wait 0.1"}, 2) +
+            QStringList{"sound 4", "sound 4", "seed", "sound 7", "wait 0.1", "sound 5", "wait 0.1"};
+    expected << "box 48 Yippieh!: Helene\rwon!"
+             << "box 36 : Once again?";
+    expected += yes ? QStringList{"wait 0.5"} + draw(sound, 2) : QStringList{"end"};
+    QCOMPARE(f.tk.trace(kTrace), expected);
+    QCOMPARE(f.game.ended(), !yes);
+    QCOMPARE(f.visiblePoints(1), yes ? 0 : 8); // the eighth symbol stands in its row
+    if (yes) {
+        QCOMPARE(f.game.g.Punkte[1], int16_t(0));
+        QCOMPARE(f.game.g.AktSpieler, int16_t(0));
         f.tk.answers.push_back(core::kAnswerNo);
-        const QString word = f.game.g.Wort;
-        f.game.start();
-        QCOMPARE(f.tk.boxes().last(), QString("box 36 Start: Really start a new game?"));
-        QCOMPARE(f.game.g.Wort, word);
-    } else {
-        QVERIFY(f.game.ended());
-        f.game.start(); // nothing runs after the end
-        QCOMPARE(f.tk.log.last(), QString("end"));
     }
+    // Start asks now that a game has run, and does nothing after the end.
+    f.game.start();
+    QCOMPARE(f.tk.log.last(), yes ? QString("box 36 Start: Really start a new game?") : "end");
 }
 
 QTEST_GUILESS_MAIN(Guesses)

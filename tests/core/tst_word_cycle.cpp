@@ -1,16 +1,21 @@
 // Starting games, drawing words, the repeat modes, the word list, and the options command.
+#include "support/files.h"
 #include "support/scripted_toolkit.h"
 #include "vocabulary/word_file.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+#include <memory>
 
 using support::GameFixture;
 
 namespace {
 
-int count(const QStringList& log, const QString& entry) { return int(log.count(entry)); }
+void type(core::Game& game, const char* keys)
+{
+    for (const char* c = keys; *c; ++c) game.key(*c);
+}
 
 } // namespace
 
@@ -19,225 +24,207 @@ class WordCycle : public QObject {
 private slots:
     void init();
     void cleanup();
-    void firstStartDrawsWithoutAQuestion();
-    void drawGrowsThePictureAndLaysOutFields_data();
-    void drawGrowsThePictureAndLaysOutFields();
-    void secondStartAsks_data();
-    void secondStartAsks();
-    void startDuringTheWaitDrawsOnce_data();
-    void startDuringTheWaitDrawsOnce();
+    void firstDraw_data();
+    void firstDraw();
+    void commandInTheHeldWait_data();
+    void commandInTheHeldWait();
     void repeatModes_data();
     void repeatModes();
-    void oneWordListIsReadAgainWhenItRunsEmpty();
-    void newGameDoesNotRefillTheList();
-    void emptyVocabularyDrawsNothing();
-    void readerMessages_data();
-    void readerMessages();
-    void optionsChangeRestarts_data();
-    void optionsChangeRestarts();
-    void optionsMotifOnlySwapsPictures();
-    void optionsDuringTheWaitDrawsOnce();
+    void readingTheWordFile_data();
+    void readingTheWordFile();
+    void optionsCommand_data();
+    void optionsCommand();
 
 private:
-    QTemporaryDir dir_;
+    std::unique_ptr<QTemporaryDir> dir_; // the working folder, fresh for each test
     QString oldCwd_;
 };
 
 void WordCycle::init()
 {
+    dir_ = std::make_unique<QTemporaryDir>();
     oldCwd_ = QDir::currentPath();
-    QVERIFY(dir_.isValid());
-    QVERIFY(QDir::setCurrent(dir_.path()));
+    QVERIFY(QDir::setCurrent(dir_->path()));
 }
 
 void WordCycle::cleanup()
 {
     QDir::setCurrent(oldCwd_);
-    for (const QString& f : QDir(dir_.path()).entryList(QDir::Files))
-        QFile::remove(dir_.filePath(f));
+    dir_.reset();
 }
 
-void WordCycle::firstStartDrawsWithoutAQuestion()
-{
-    GameFixture f;
-    f.game.board.Spieler[0].Caption = "Marta"; // from start-up
-    f.game.start();
-    QVERIFY(f.tk.boxes().isEmpty());
-    QVERIFY(f.game.g.SpielLaeuft);
-    QCOMPARE(f.game.g.Wort, QString("APPLE"));
-    QCOMPARE(f.game.FeldZahl, int16_t(5));
-    for (int i = 0; i < core::kLetters; ++i) {
-        QVERIFY(f.game.board.alpha[i].Visible);
-        QVERIFY(f.game.board.alpha[i].Enabled);
-    }
-    for (int i = core::kLetters; i < core::kTiles; ++i) {
-        QVERIFY(!f.game.board.alpha[i].Visible); // the umlaut tiles are never touched
-        QVERIFY(!f.game.board.alpha[i].Enabled);
-    }
-    QVERIFY(f.game.board.tip_Enabled);
-    QVERIFY(!f.game.board.weiter_Enabled);
-    QVERIFY(!f.game.board.PicBut_Visible[3]);
-    QCOMPARE(f.visibleStage(), 0);
-    QCOMPARE(f.game.board.B_Folge0_Height, core::kPictureSize);
-}
-
-void WordCycle::drawGrowsThePictureAndLaysOutFields_data()
+void WordCycle::firstDraw_data()
 {
     QTest::addColumn<int>("sound");
-    QTest::addColumn<QStringList>("expected");
-    QStringList grow;
-    for (int i = 0; i < 8; ++i) grow << "wait 0.1";
-    QStringList fields;
-    for (int i = 0; i < 3; ++i)
-        fields << "sound 4"
-               << "wait 0.1";
-    QTest::newRow("sound on") << 1 << (QStringList{"sound 0"} + grow + fields);
-    QTest::newRow("sound off") << 0 << grow;
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<int>("firstLeft");
+    // Fields centred: half the room left in whole twips, ties to even, the remainder dropped.
+    QTest::newRow("sound on, the minimum width") << 1 << "apple" << 9600.0 << 3725;
+    QTest::newRow("sound off, an odd room drops the half") << 0 << "apple" << 9601.0 << 3725;
+    QTest::newRow("a half twip ties to even, down") << 0 << "apple" << 9600.5 << 3725;
+    QTest::newRow("a half twip ties to even, up") << 0 << "apple" << 9601.5 << 3726;
+    QTest::newRow("wide window") << 0 << "owl" << 19200.0 << 8975;
+    QTest::newRow("word wider than the window: towards zero")
+        << 1 << "abcdefghijklmnopqrstuvwxy" << 9599.0 << -775;
 }
 
-void WordCycle::drawGrowsThePictureAndLaysOutFields()
+void WordCycle::firstDraw()
 {
     QFETCH(int, sound);
-    QFETCH(QStringList, expected);
-    GameFixture f({"owl"});
+    QFETCH(QString, word);
+    QFETCH(double, width);
+    QFETCH(int, firstLeft);
+    GameFixture f({word});
     f.game.einst.Sound = sound;
+    f.tk.width = width;
+    f.game.board.Feld[0].Top = 3273; // as the layout leaves the pattern
     QList<int> heights;
     for (int i = 0; i < 8; ++i) f.tk.duringWait([&] { heights << f.game.board.B_Folge0_Height; });
     f.game.start();
-    QCOMPARE(f.tk.soundsAndWaits(), expected);
-    QCOMPARE(heights, (QList<int>{300, 600, 900, 1200, 1500, 1800, 2100, 2400}));
-    QCOMPARE(f.tk.trace({"seed"}).size(), 1); // seeded from the clock at the draw
-}
-
-void WordCycle::secondStartAsks_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::newRow("yes") << int(core::kAnswerYes);
-    QTest::newRow("no") << int(core::kAnswerNo);
-}
-
-void WordCycle::secondStartAsks()
-{
-    QFETCH(int, answer);
-    GameFixture f({"apple", "lemon"});
-    f.drawIndex(0);
-    f.game.start();
-    f.game.g.Punkte[0] = 3; // say earlier words were won
-    f.game.board.Punkt[0].Visible = true;
-    for (const char* k = "bcdfg"; *k; ++k) f.game.key(*k); // 5 misses
-    QCOMPARE(f.visibleStage(), 5);
-    f.tk.log.clear();
-    f.tk.answers.push_back(answer);
-    f.drawIndex(1);
-    f.game.start();
-    QCOMPARE(f.tk.boxes(), QStringList{"box 36 Start: Really start a new game?"});
-    if (answer == core::kAnswerYes) {
-        QCOMPARE(f.game.g.Wort, QString("LEMON"));
-        QCOMPARE(f.visibleStage(), 0); // no picture of the old word is left
-        QCOMPARE(f.game.g.Punkte[0], int16_t(0));
-        QVERIFY(!f.game.board.Punkt[0].Visible);
-        QCOMPARE(f.game.g.AktSpieler, int16_t(0));
-        // The dropped word does not come back into the list.
-        QCOMPARE(f.game.List1, (QStringList{"apple", "lemon"}));
-    } else {
-        QCOMPARE(f.game.g.Wort, QString("APPLE"));
-        QCOMPARE(f.visibleStage(), 5);
-        QCOMPARE(f.game.g.Punkte[0], int16_t(3));
-        QCOMPARE(f.game.g.AktSpieler, int16_t(1));
-        QVERIFY(f.tk.sounds().isEmpty());
+    QVERIFY(f.tk.boxes().isEmpty()); // the first start asks nothing
+    // Jingle, the picture grows, the seed from the clock, then a sound and a wait a field.
+    QStringList trace = QStringList(8, "wait 0.1") << "seed";
+    if (sound) {
+        trace.prepend("sound 0");
+        for (qsizetype i = 0; i < word.size(); ++i)
+            trace << "sound 4"
+                  << "wait 0.1";
     }
+    QCOMPARE(f.tk.trace({"sound", "wait", "seed"}), trace);
+    QCOMPARE(heights, (QList<int>{300, 600, 900, 1200, 1500, 1800, 2100, 2400}));
+    QCOMPARE(f.game.g.Wort, word.toUpper());
+    QCOMPARE(f.fields(), QString(word.size(), '_'));
+    for (size_t i = 1; i < f.game.board.Feld.size(); ++i) {
+        QCOMPARE(f.game.board.Feld[i].Left, firstLeft + int(i - 1) * 450);
+        QCOMPARE(f.game.board.Feld[i].Top, 3273);
+        QVERIFY(f.game.board.Feld[i].Visible);
+    }
+    for (int i = 0; i < core::kTiles; ++i) {
+        QCOMPARE(f.game.board.alpha[i].Visible, i < core::kLetters); // umlauts never show
+        QCOMPARE(f.game.board.alpha[i].Enabled, i < core::kLetters);
+    }
+    QVERIFY(f.game.g.SpielLaeuft);
+    QVERIFY(f.game.board.tip_Enabled);
+    QCOMPARE(f.visibleStage(), 0);
 }
 
-void WordCycle::startDuringTheWaitDrawsOnce_data()
+void WordCycle::commandInTheHeldWait_data()
 {
+    QTest::addColumn<int>("button"); // the picture button pressed; -1: the options command
     QTest::addColumn<int>("answer");
-    QTest::newRow("yes") << int(core::kAnswerYes);
-    QTest::newRow("no, then next word") << int(core::kAnswerNo);
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<int>("points"); // -1: the program has ended
+    QTest::newRow("start, yes") << 0 << int(core::kAnswerYes) << "OX" << 0;
+    QTest::newRow("start, no, then the next word") << 0 << int(core::kAnswerNo) << "OX" << 1;
+    QTest::newRow("options changed") << -1 << 0 << "ELK" << 0;
+    QTest::newRow("end, no, then the next word") << 1 << int(core::kAnswerNo) << "OX" << 1;
+    QTest::newRow("end, yes") << 1 << int(core::kAnswerYes) << "" << -1;
 }
 
-void WordCycle::startDuringTheWaitDrawsOnce()
+void WordCycle::commandInTheHeldWait()
 {
+    QFETCH(int, button);
     QFETCH(int, answer);
+    QFETCH(QString, word);
+    QFETCH(int, points);
+    QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"elk"}));
     GameFixture f({"ox"});
     f.game.start();
     f.tk.log.clear();
     f.tk.answers.push_back(answer);
-    f.tk.whenHeld([&] { f.game.start(); });
-    if (answer == core::kAnswerNo) f.tk.whenHeld([&] { f.game.picBut(3); });
-    f.game.key('o');
-    f.game.key('x');
-    QCOMPARE(count(f.tk.log, "sound 0"), 1); // exactly one new word
-    QCOMPARE(f.game.g.Punkte[0], int16_t(answer == core::kAnswerYes ? 0 : 1));
-    QVERIFY(!f.game.board.weiter_Enabled);
+    f.tk.whenHeld([&] {
+        if (button >= 0) f.game.picBut(button);
+        else f.game.run([&] { f.game.opt_Click([&] { f.game.g.EinstGeaendert = true; }); });
+    });
+    f.tk.whenHeld([&] { f.game.picBut(3); }); // after a No the word still stands finished
+    type(f.game, "ox");
+    if (points < 0) {
+        QVERIFY(f.game.ended());
+        QCOMPARE(f.tk.log.last(), QString("end")); // no draw after the end, nor later
+        f.game.key('o');
+        f.game.start();
+        QCOMPARE(f.tk.log.last(), QString("end"));
+        return;
+    }
+    // One draw, after the half second that follows a solved word.
+    QCOMPARE(f.tk.trace({"wait 0.5", "sound 0"}), (QStringList{"wait 0.5", "sound 0"}));
+    QCOMPARE(int(f.game.g.Punkte[0]), points);
+    QCOMPARE(f.game.g.Wort, word);
     QVERIFY(!f.game.board.PicBut_Visible[3]);
-    QVERIFY(f.game.board.alpha[0].Enabled);
-    // After a solved word half a second stands between the end of the wait and the draw.
-    const QStringList w = f.tk.trace({"wait 0.5", "sound 0"});
-    QCOMPARE(w, (QStringList{"wait 0.5", "sound 0"}));
 }
 
 void WordCycle::repeatModes_data()
 {
+    QTest::addColumn<QStringList>("words");
     QTest::addColumn<bool>("allWords");
     QTest::addColumn<QStringList>("left");
-    QTest::newRow("all words: nothing leaves") << true << QStringList{"cat", "dog", "emu"};
-    QTest::newRow("words not guessed: the drawn word leaves") << false << QStringList{"cat", "emu"};
+    QTest::newRow("all words: nothing leaves")
+        << QStringList{"cat", "dog", "emu"} << true << QStringList{"cat", "dog", "emu"};
+    QTest::newRow("words not guessed: the drawn word leaves")
+        << QStringList{"cat", "dog", "emu"} << false << QStringList{"cat", "emu"};
+    QTest::newRow("words not guessed, one word: read anew at once")
+        << QStringList{"kiwi"} << false << QStringList{"kiwi"};
 }
 
 void WordCycle::repeatModes()
 {
+    QFETCH(QStringList, words);
     QFETCH(bool, allWords);
     QFETCH(QStringList, left);
-    GameFixture f({"cat", "dog", "emu"});
+    QVERIFY(!vocabulary::writeWordFile("frostel.dat", words));
+    GameFixture f(words);
     f.game.einst.wiederh = {allWords, !allWords};
-    f.drawIndex(1);
-    f.game.start();
-    QCOMPARE(f.game.g.Wort, QString("DOG"));
-    QCOMPARE(f.game.List1, left);
-}
-
-void WordCycle::oneWordListIsReadAgainWhenItRunsEmpty()
-{
-    QVERIFY(!vocabulary::writeWordFile("one.dat", {"kiwi"}));
-    GameFixture f({"kiwi"});
-    f.game.g.WortDatei = "one.dat";
-    f.game.einst.wiederh = {false, true};
-    f.game.start();
-    QCOMPARE(f.game.g.Wort, QString("KIWI"));
-    QCOMPARE(f.game.List1, QStringList{"kiwi"}); // read anew at once
-    QVERIFY(f.tk.boxes().isEmpty());
-    // Lost now, the word stands twice: the new reading holds it already.
     f.game.einst.Sound = 0;
+    f.drawIndex(int(words.size() / 2));
+    f.game.start();
+    const QString word = words[words.size() / 2].toUpper();
+    QCOMPARE(f.game.g.Wort, word);
+    QCOMPARE(f.game.List1, left);
+    QVERIFY(f.tk.boxes().isEmpty());
+    // A lost word goes back in, so it can come up again even where it already stands.
+    QStringList atHold;
     f.tk.whenHeld([&] {
-        QCOMPARE(f.game.List1, (QStringList{"kiwi", "KIWI"}));
+        atHold = f.game.List1;
         f.game.weiter();
     });
-    for (const char* k = "abcdefghj"; *k; ++k) f.game.key(*k);
-    QVERIFY(f.tk.log.contains("hold"));
-    QCOMPARE(f.game.g.Wort, QString("KIWI")); // the same word can come up next
+    type(f.game, "bcfhjlmnq");
+    QCOMPARE(atHold, left + QStringList{word});
 }
 
-void WordCycle::newGameDoesNotRefillTheList()
+void WordCycle::readingTheWordFile_data()
 {
-    GameFixture f({"cat", "dog", "emu"});
-    f.game.einst.wiederh = {false, true};
-    f.drawIndex(0);
-    f.game.start();
-    QCOMPARE(f.game.List1, (QStringList{"dog", "emu"}));
-    f.tk.answers.push_back(core::kAnswerYes);
-    f.drawIndex(0);
-    f.game.start();
-    // Solved and dropped words stay away until the list has run empty.
-    QCOMPARE(f.game.g.Wort, QString("DOG"));
-    QCOMPARE(f.game.List1, QStringList{"emu"});
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content"); // null: no file; "dir": a folder in its place
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("no name, no file")
+        << "" << QByteArray() << "File frostel.dat not found!" << QStringList();
+    QTest::newRow("missing") << "gone.dat" << QByteArray() << "File gone.dat not found!"
+                             << QStringList();
+    QTest::newRow("a directory") << "x.dat" << QByteArray("dir") << "Path/File access error"
+                                 << QStringList();
+    QTest::newRow("good") << "ok.dat" << QByteArray("fig\r\npear\r\n") << ""
+                          << QStringList{"fig", "pear"};
 }
 
-void WordCycle::emptyVocabularyDrawsNothing()
+void WordCycle::readingTheWordFile()
 {
-    GameFixture f(QStringList{});
-    f.game.WoerterLaden(); // no frostel.dat here
-    QCOMPARE(f.tk.boxes(), QStringList{"box 48 Error: File frostel.dat not found!"});
-    QCOMPARE(f.game.g.WortDatei, QString("frostel.dat"));
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, message);
+    QFETCH(QStringList, words);
+    if (content == "dir") QVERIFY(QDir().mkdir(name));
+    else if (!content.isNull()) QVERIFY(support::writeBytes(name, content));
+    GameFixture f({"stale"});
+    f.game.g.WortDatei = name;
+    f.game.WoerterLaden();
+    QCOMPARE(f.game.List1, words);
+    const QStringList boxes = f.tk.boxes();
+    QCOMPARE(boxes, message.isEmpty() ? QStringList() : QStringList{"box 48 Error: " + message});
+    QCOMPARE(f.game.g.WortDatei, name.isEmpty() ? QString("frostel.dat") : name);
+    if (!words.isEmpty()) return;
+    // No word: nothing drawn, tiles and tip shut, input does nothing and says nothing.
     f.game.start();
     QVERIFY(f.game.g.Wort.isEmpty());
     QCOMPARE(f.game.board.Feld.size(), size_t(1));
@@ -247,131 +234,57 @@ void WordCycle::emptyVocabularyDrawsNothing()
     f.game.picBut(2);
     f.game.tip();
     QCOMPARE(f.game.g.Fehler, int16_t(0));
-    QCOMPARE(f.game.g.Punkte[0], int16_t(0));
-    QCOMPARE(f.tk.boxes().size(), 1); // said once, at the reading
-    // Once words arrive, the next start plays again.
-    f.game.List1 = {"yak"};
-    f.tk.answers.push_back(core::kAnswerYes);
-    f.game.start();
-    QCOMPARE(f.game.g.Wort, QString("YAK"));
-    QVERIFY(f.game.board.alpha[0].Enabled);
+    QCOMPARE(f.game.g.TipZaehler, int16_t(0));
+    QCOMPARE(f.tk.boxes(), boxes);
 }
 
-void WordCycle::readerMessages_data()
+void WordCycle::optionsCommand_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isDirectory");
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("missing") << "gone.dat" << QByteArray() << false << QStringList()
-                             << "box 48 Error: File gone.dat not found!";
-    QTest::newRow("zero bytes") << "empty.dat" << QByteArray("") << false << QStringList()
-                                << "box 48 Error: Input past end of file";
-    QTest::newRow("a directory") << "x.dat" << QByteArray() << true << QStringList()
-                                 << "box 48 Error: Path/File access error";
-    QTest::newRow("good") << "ok.dat" << QByteArray("fig\r\npear\r\n") << false
-                          << QStringList{"fig", "pear"} << QString();
+    QTest::addColumn<bool>("running");
+    QTest::addColumn<int>("motif");
+    QTest::addColumn<bool>("changed");
+    QTest::addColumn<int>("series");
+    QTest::newRow("a setting changed before any game") << false << 0 << true << 0;
+    QTest::newRow("a setting changed during a word") << true << 1 << true << 1;
+    QTest::newRow("only the motif changed during a word") << true << 0 << false << 0;
+    QTest::newRow("a motif out of range takes Frostel") << true << 5 << false << 1;
 }
 
-void WordCycle::readerMessages()
+void WordCycle::optionsCommand()
 {
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isDirectory);
-    QFETCH(QStringList, words);
-    QFETCH(QString, message);
-    if (isDirectory) QVERIFY(QDir().mkdir(name));
-    else if (!content.isNull()) {
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    GameFixture f({"stale"});
-    f.game.g.WortDatei = name;
-    f.game.WoerterLaden();
-    QCOMPARE(f.game.List1, words);
-    QCOMPARE(f.tk.boxes(), message.isEmpty() ? QStringList() : QStringList{message});
-    QCOMPARE(f.game.g.WortDatei, name);
-    if (isDirectory) QDir().rmdir(name);
-}
-
-void WordCycle::optionsChangeRestarts_data()
-{
-    QTest::addColumn<bool>("gameRunning");
-    QTest::newRow("no game yet") << false;
-    QTest::newRow("during a word") << true;
-}
-
-void WordCycle::optionsChangeRestarts()
-{
-    QFETCH(bool, gameRunning);
+    QFETCH(bool, running);
+    QFETCH(int, motif);
+    QFETCH(bool, changed);
+    QFETCH(int, series);
     QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"gnu"}));
     GameFixture f({"apple"});
-    if (gameRunning) {
+    if (running) {
         f.game.start();
         f.game.g.Punkte[2] = 4;
-        f.game.key('z');
+        f.game.board.Punkt[16].Visible = true;
+        type(f.game, "za");
     }
     f.game.run([&] {
         f.game.opt_Click([&] {
             f.game.einst.Spieler_Name[0] = "Kim";
-            f.game.g.EinstGeaendert = true; // as a changed name does
+            f.game.g.AnzSpieler = 2;
+            f.game.g.MotivNr = int16_t(motif);
+            f.game.g.EinstGeaendert = changed; // names and counts raise it, the motif does not
         });
     });
-    QVERIFY(f.tk.boxes().isEmpty()); // no question
+    QVERIFY(f.tk.boxes().isEmpty());
+    QCOMPARE(f.game.board.seriesMotif, series);
+    for (const auto& s : f.game.board.Punkt) QCOMPARE(s.symbol, series);
+    QCOMPARE(int(f.tk.log.count("sound 0")), running + changed);
     QVERIFY(f.game.g.SpielLaeuft);
-    QCOMPARE(f.game.g.Wort, QString("GNU")); // from the list read anew
-    QCOMPARE(f.game.board.Spieler[0].Caption, QString("Kim"));
-    QCOMPARE(f.game.g.Punkte[2], int16_t(0));
-    QCOMPARE(f.game.g.AktSpieler, int16_t(0));
-    QCOMPARE(f.game.g.Fehler, int16_t(0));
-    QCOMPARE(count(f.tk.log, "sound 0"), gameRunning ? 2 : 1);
-}
-
-void WordCycle::optionsMotifOnlySwapsPictures()
-{
-    GameFixture f({"apple"});
-    f.game.start();
-    f.game.g.Punkte[0] = 2;
-    f.game.board.Punkt[0].Visible = f.game.board.Punkt[1].Visible = true;
-    f.game.key('z');
-    f.game.key('a');
-    const auto before = f.game.g;
-    f.game.run([&] { f.game.opt_Click([&] { f.game.g.MotivNr = 0; }); });
-    QCOMPARE(f.game.board.seriesMotif, 0);
-    for (const auto& s : f.game.board.Punkt) QCOMPARE(s.symbol, 0);
-    QCOMPARE(f.visiblePoints(0), 2);
-    QCOMPARE(f.visibleStage(), 1);
-    QCOMPARE(f.game.g.Wort, before.Wort);
-    QCOMPARE(f.game.g.Fehler, before.Fehler);
-    QCOMPARE(f.game.g.AktSpieler, before.AktSpieler);
-    QCOMPARE(f.fields(), QString("A____"));
-    QCOMPARE(count(f.tk.log, "sound 0"), 1);
-}
-
-void WordCycle::optionsDuringTheWaitDrawsOnce()
-{
-    QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"elk"}));
-    GameFixture f({"ox"});
-    f.game.start();
-    f.tk.log.clear();
-    f.tk.whenHeld([&] {
-        f.game.run([&] {
-            f.game.opt_Click([&] {
-                f.game.g.AnzTips = 1;
-                f.game.g.EinstGeaendert = true;
-                f.game.g.MotivNr = 0;
-            });
-        });
-    });
-    f.game.key('o');
-    f.game.key('x');
-    QCOMPARE(count(f.tk.log, "sound 0"), 1);
-    QCOMPARE(f.game.g.Wort, QString("ELK"));
-    QCOMPARE(f.game.g.Punkte[0], int16_t(0));
-    QCOMPARE(f.game.board.seriesMotif, 0);
-    QVERIFY(!f.game.board.weiter_Enabled);
+    // A change starts a new game on the list read anew; the motif alone keeps the word.
+    QCOMPARE(f.game.g.Wort, QString(changed ? "GNU" : "APPLE"));
+    QCOMPARE(f.fields(), QString(changed ? "___" : "A____"));
+    QCOMPARE(f.game.board.Spieler[0].Caption, QString(changed ? "Kim" : "Marta"));
+    QCOMPARE(f.game.board.Spieler[2].Visible, !changed);
+    QCOMPARE(f.visiblePoints(2), changed ? 0 : 1);
+    QCOMPARE(int(f.game.g.AktSpieler), changed ? 0 : 1);
+    QCOMPARE(f.visibleStage(), changed ? 0 : 1);
 }
 
 QTEST_GUILESS_MAIN(WordCycle)
