@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace vocabulary {
 namespace {
@@ -27,15 +28,14 @@ bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 
 void ItemReader::append(char c)
 {
-    if (length_ < kKeep) cur_.append(c);
+    if (length_ < kKeep) cur_[size_t(length_)] = c;
     ++length_;
     sharpS_ = sharpS_ || c == kSharpS;
 }
 
 void ItemReader::endItem()
 {
-    sink_(Item{cur_, length_, sharpS_});
-    cur_.clear();
+    sink_(Item{QByteArrayView(cur_.data(), std::min(length_, kKeep)), length_, sharpS_});
     length_ = 0;
     sharpS_ = false;
     state_ = State::Start;

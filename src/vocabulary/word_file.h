@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <array>
 #include <functional>
 #include <optional>
 
@@ -44,7 +45,8 @@ private:
     State state_ = State::Start;
     bool skipLf_ = false;
     bool sawAny_ = false;
-    QByteArray cur_;
+    // The kept bytes of the item: a fixed buffer, no allocation per item.
+    std::array<char, kMaxWordLength + 1> cur_{};
     qsizetype length_ = 0;
     bool sharpS_ = false;
 };
