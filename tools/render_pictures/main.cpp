@@ -45,32 +45,45 @@ int render(const QStringList& a)
 }
 
 // Each picture at 1x and 2x side by side, on a mid grey so both light and dark art reads.
+// The cells flow into rows of a fixed width, each row as tall as its tallest cell.
 int sheet(const QStringList& a)
 {
     if (a.size() < 2) return fail("sheet needs OUT and at least one PNG");
-    const int cols = 6, pad = 12, label = 16;
-    QList<QImage> ones, twos;
-    int cellW = 0, cellH = 0;
+    const int width = 2000, pad = 12, label = 16;
+    struct Cell {
+        QImage one, two;
+        QString name;
+        QRect place;
+    };
+    QList<Cell> cells;
+    int x = 0, y = 0, rowH = 0;
     for (qsizetype i = 1; i < a.size(); ++i) {
         QString two = a[i];
         two.insert(two.lastIndexOf('.'), "@2x");
-        ones << QImage(a[i]);
-        twos << QImage(two);
-        cellW = qMax(cellW, ones.last().width() + twos.last().width() + 3 * pad);
-        cellH = qMax(cellH, qMax(ones.last().height(), twos.last().height()) + 2 * pad + label);
+        Cell c{QImage(a[i]), QImage(two), QFileInfo(a[i]).completeBaseName(), {}};
+        // Shown pixel for pixel: the reader would take "@2x" as a cue to halve it.
+        c.two.setDevicePixelRatio(1);
+        const int w = c.one.width() + c.two.width() + 3 * pad;
+        const int h = qMax(c.one.height(), c.two.height()) + 2 * pad + label;
+        if (x > 0 && x + w > width) {
+            x = 0;
+            y += rowH;
+            rowH = 0;
+        }
+        c.place = QRect(x, y, w, h);
+        x += w;
+        rowH = qMax(rowH, h);
+        cells << c;
     }
-    const int n = int(ones.size());
-    const int rows = (n + cols - 1) / cols;
-    QImage img(cols * cellW, rows * cellH, QImage::Format_RGB32);
+    QImage img(width, y + rowH, QImage::Format_RGB32);
     img.fill(QColor(128, 128, 128));
     QPainter p(&img);
     p.setFont(QFont("DejaVu Sans", 8));
-    for (int i = 0; i < n; ++i) {
-        const int x = (i % cols) * cellW, y = (i / cols) * cellH;
-        p.drawImage(x + pad, y + pad, ones[i]);
-        p.drawImage(x + 2 * pad + ones[i].width(), y + pad, twos[i]);
-        p.drawText(QRect(x, y + cellH - label - 2, cellW, label), Qt::AlignCenter,
-                   QFileInfo(a[i + 1]).completeBaseName());
+    for (const Cell& c : cells) {
+        const QRect& r = c.place;
+        p.drawImage(r.x() + pad, r.y() + pad, c.one);
+        p.drawImage(r.x() + 2 * pad + c.one.width(), r.y() + pad, c.two);
+        p.drawText(QRect(r.x(), r.bottom() - label - 2, r.width(), label), Qt::AlignCenter, c.name);
     }
     p.end();
     return img.save(a[0], "PNG") ? 0 : fail("cannot write " + a[0]);
