@@ -114,11 +114,9 @@ SoundPlayer* QtToolkit::soundPlayer()
 {
     if (soundTried_) return player_.get();
     soundTried_ = true;
-    // Beside the program (the build tree), in an installed copy's library folder, and in
-    // the build tree for the tests' own executables.
+    // Beside the program (the build tree), or in an installed copy's library folder.
     const QString bin = QCoreApplication::applicationDirPath();
-    for (const QString& dir : {bin, bin + QStringLiteral("/" FROSTEL_SOUND_FROM_BINDIR),
-                               QStringLiteral(FROSTEL_RUNTIME_DIR)}) {
+    for (const QString& dir : {bin, bin + QStringLiteral("/" FROSTEL_SOUND_FROM_BINDIR)}) {
         auto module = std::make_unique<QLibrary>(dir + QStringLiteral("/frostel32-sound"));
         if (!module->load()) continue;
         if (auto create =

@@ -17,6 +17,7 @@ fail() { echo "FAIL: $*"; [ -f "$work/game.log" ] && sed 's/^/  game: /' "$work/
 # A game folder of its own with a one-word vocabulary, so the word is known.
 mkdir -p "$work/game" "$work/home"
 cp "$bin" "$work/game/frostel32"
+cp "$(dirname "$bin")/frostel32-sound.so" "$work/game/" 2>/dev/null
 printf 'ox\r\n' > "$work/game/frostel.dat"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share
 export XDG_RUNTIME_DIR=$work/home/.runtime

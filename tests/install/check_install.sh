@@ -21,6 +21,11 @@ if command -v desktop-file-validate >/dev/null; then
     out=$(desktop-file-validate "$prefix/share/applications/$id.desktop") || fail "$out"
     [ -z "$out" ] || fail "$out"
 fi
-ls "$prefix"/lib*/frostel32/frostel32-sound.so "$prefix"/lib/*/frostel32/frostel32-sound.so 2>/dev/null | grep -q . \
-    || fail "the sound module is not installed"
+# The program finds its sound module by a path relative to its own folder.
+rel=$(strings -el "$prefix/bin/frostel32" | grep -m1 '^/\.\..*/frostel32$')
+module="$prefix/bin$rel/frostel32-sound.so"
+[ -n "$rel" ] && [ -s "$module" ] || fail "the sound module is not where the program looks ($rel)"
+nm -D --defined-only "$module" | grep -q ' frostel32_create_sound_player$' \
+    || fail "the sound module has no entry point"
+! ldd "$module" | grep -q 'not found' || fail "the sound module misses libraries"
 echo "1 passed, 0 failed"
