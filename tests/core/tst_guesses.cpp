@@ -35,6 +35,7 @@ class Guesses : public QObject {
 private slots:
     void wordEnds_data();
     void wordEnds();
+    void lostWordShowsItsSolution();
     void jingleFollowsTheDraw_data();
     void jingleFollowsTheDraw();
     void keys_data();
@@ -106,6 +107,28 @@ void Guesses::wordEnds()
     QCOMPARE(f.fields(), QString("___"));
     QCOMPARE(f.visibleStage(), 0);
     QCOMPARE(f.game.g.Fehler, int16_t(0));
+}
+
+void Guesses::lostWordShowsItsSolution()
+{
+    // The tiles close with the loss, then the solution comes a letter at a time in the order
+    // of the alphabet, not of the word.
+    GameFixture f({"cab"});
+    f.game.start();
+    QStringList seen;
+    for (int i = 0; i < 8; ++i) f.tk.duringWait([] {}); // the waits after the first misses
+    f.tk.duringWait([&] {
+        bool open = false;
+        for (int i = 0; i < core::kLetters; ++i) open = open || f.game.board.alpha[i].Enabled;
+        seen << (open ? "open" : "closed");
+    });
+    for (int i = 0; i < 3; ++i) f.tk.duringWait([&] { seen << f.fields(); });
+    f.tk.whenHeld([&] {
+        seen << f.fields();
+        f.game.weiter();
+    });
+    type(f.game, "defghijkl");
+    QCOMPARE(seen, (QStringList{"closed", "_A_", "_AB", "CAB", "CAB"}));
 }
 
 void Guesses::jingleFollowsTheDraw_data()
