@@ -144,6 +144,11 @@ void Game::start_Click()
             return;
         NeuesSpiel();
     }
+    nextWord();
+}
+
+void Game::nextWord()
+{
     if (board.weiter_Enabled) {
         // A guess is held in WeiterWarten: ending the wait lets it draw the next word.
         board.weiter_Enabled = false;
@@ -200,14 +205,7 @@ void Game::opt_Click(const std::function<void()>& showOptions)
     if (g.EinstGeaendert) {
         NeuesSpiel();
         WoerterLaden();
-        if (board.weiter_Enabled) {
-            // The held guess draws the next word when its wait ends.
-            board.weiter_Enabled = false;
-            board.PicBut_Visible[3] = false;
-        } else {
-            NeuesWort();
-        }
-        g.SpielLaeuft = true;
+        nextWord();
     }
 }
 

@@ -83,6 +83,8 @@ public:
     bool soundOn() const { return einst.Sound == 1; }
 
 private:
+    // A word now: the held guess's wait ends and it draws one, else one is drawn here.
+    void nextWord();
     struct Ended {}; // unwinds a routine once the program has ended
 
     void drain();
