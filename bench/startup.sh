@@ -4,22 +4,18 @@
 #   bench/startup.sh [BUILD_DIR]     (a Release build: cmake -DCMAKE_BUILD_TYPE=Release)
 set -u
 here=$(cd "$(dirname "$0")/.." && pwd)
+# An X server of its own, never the user's screen.
+[ -n "${FROSTEL_XVFB:-}" ] || exec "$here/tests/e2e/under_xvfb.sh" bash "$0" "$@"
 build=$(readlink -f "${1:-$here/build-release}")
 cmake --build "$build" --target frostel32 bench_bare_window >/dev/null || exit 1
 game=$build/game/frostel32
 bare=$build/bench/bench_bare_window
-for tool in Xvfb xdotool; do command -v $tool >/dev/null || { echo "needs $tool"; exit 2; }; done
+for tool in xdotool; do command -v $tool >/dev/null || { echo "needs $tool"; exit 2; }; done
 
 work=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
 export HOME=$work XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work/run
 mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
-for n in $(seq 200 230); do
-    [ -e /tmp/.X11-unix/X$n ] || [ -e /tmp/.X$n-lock ] && continue
-    Xvfb :$n -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-    export DISPLAY=:$n
-    for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break 2; sleep 0.1; done
-done
 
 now() { date +%s.%N; }
 minus() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a - b }'; }

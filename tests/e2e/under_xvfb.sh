@@ -12,6 +12,9 @@ for n in $(seq 140 169); do
     Xvfb :$n -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 & xpid=$!
     export DISPLAY=:$n
     for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break 2; sleep 0.1; done
+    kill $xpid 2>/dev/null; xpid="" # never came up: try the next display
 done
-export QT_QPA_PLATFORM=xcb
+[ -n "$xpid" ] || { echo "no free display for Xvfb"; exit 1; }
+# Scripts that must not run on the user's own screen check for this.
+export QT_QPA_PLATFORM=xcb FROSTEL_XVFB=$DISPLAY
 "$@"
