@@ -3,6 +3,8 @@
 #include "assets/options_window.h"
 #include "assets/pictures.h"
 #include "mainwindow/main_window.h"
+#include "support/files.h"
+#include "support/modal.h"
 #include "vocabulary/word_file.h"
 
 #include <QAbstractButton>
@@ -28,28 +30,10 @@ long long tw(int px) { return px * 15LL; }
 // Answers the next modal box with the given button once it shows.
 void answerNextBox(QMessageBox::StandardButton button, QStringList* texts = nullptr)
 {
-    QTimer::singleShot(0, [=] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box) return answerNextBox(button, texts);
+    support::onNextModal<QMessageBox>([=](QMessageBox* box) {
         if (texts) texts->append(box->text());
         box->button(button)->click();
     });
-}
-
-// Runs `act` on the next modal window of type T once it shows.
-template <class T> void onNextModal(std::function<void(T*)> act)
-{
-    QTimer::singleShot(10, [act] {
-        auto* window = qobject_cast<T*>(QApplication::activeModalWidget());
-        if (!window) return onNextModal<T>(act);
-        act(window);
-    });
-}
-
-QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 bool samePicture(const QLabel* label, const QString& name)
@@ -169,7 +153,7 @@ void MainWindowTest::restartRestoresWhatWasStored()
         w->close();
         QCOMPARE(exits_, 1);
     }
-    const QByteArray ini = fileBytes(ini_);
+    const QByteArray ini = support::readAll(ini_);
     QVERIFY(ini.startsWith("[Window]\r\nLeft= 750\r\nTop= 600\r\n"));
     QVERIFY(ini.contains("\r\nStatus= 0\r\n"));
     QVERIFY(!ini.contains("Einstellungen")); // options are written by the options window only
@@ -186,7 +170,7 @@ void MainWindowTest::maximisedLeavesPlaceKeysAlone()
     auto w = startWindow(before);
     QVERIFY(w->windowState() & Qt::WindowMaximized);
     w->close();
-    QCOMPARE(fileBytes(ini_), before); // only Status written, with the same value
+    QCOMPARE(support::readAll(ini_), before); // only Status written, with the same value
 }
 
 void MainWindowTest::screenBounds_data()
@@ -269,7 +253,7 @@ void MainWindowTest::handEditedFileStartsSafely()
     QCOMPARE(w->game().g.Fehler, int16_t(1));
     w->close();
     // A clean file at the end: readable lines only, the window's place in it.
-    const QByteArray out = fileBytes(ini_);
+    const QByteArray out = support::readAll(ini_);
     QVERIFY(out.contains("[Window]"));
     for (char c : out) QVERIFY(c == '\r' || c == '\n' || static_cast<unsigned char>(c) >= 0x20);
 }
@@ -447,7 +431,7 @@ void MainWindowTest::theRealOptionsWindow()
     QTest::keyClick(w.get(), Qt::Key_Z);
     // From the menu: the options window, where a double click on "Apple tree" closes it.
     QString vocabulary;
-    onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
+    support::onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
         vocabulary =
             options->wortsch()->currentItem() ? options->wortsch()->currentItem()->text() : "";
         QListWidget* motif = options->Motiv();
@@ -461,7 +445,7 @@ void MainWindowTest::theRealOptionsWindow()
     // The word and its miss stay; the picture is the apple tree's now; the file has it all.
     QCOMPARE(g.g.Fehler, int16_t(1));
     QVERIFY(samePicture(w->pictureLabel(1), "apfelbaum1"));
-    const QByteArray ini = fileBytes(ini_);
+    const QByteArray ini = support::readAll(ini_);
     QVERIFY2(ini.contains("Motiv= 0\r\n"), ini.constData());
     QVERIFY2(ini.contains("Datei=frostel.dat\r\n"), ini.constData());
     QVERIFY2(ini.contains("Spieler4=Svenja\r\n"), ini.constData());

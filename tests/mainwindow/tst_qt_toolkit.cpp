@@ -2,6 +2,7 @@
 // sleep, and input that comes during a wait. Runs offscreen, and again under Xvfb where the
 // input rows send real X key presses.
 #include "mainwindow/main_window.h"
+#include "support/modal.h"
 #include "vocabulary/word_file.h"
 
 #include <QAbstractButton>
@@ -26,16 +27,6 @@ double cpuSeconds()
     timespec t{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
     return double(t.tv_sec) + double(t.tv_nsec) / 1e9;
-}
-
-// Runs `act` on the next modal message box once it shows.
-void onNextBox(std::function<void(QMessageBox*)> act)
-{
-    QTimer::singleShot(10, [act] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box) return onNextBox(act);
-        act(box);
-    });
 }
 
 int uncovered(const core::Game& game)
@@ -124,7 +115,7 @@ void QtToolkitTest::messageBoxes()
     QMessageBox::Icon shownIcon{};
     int shownButtons = 0;
     QString title, text;
-    onNextBox([&](QMessageBox* box) {
+    support::onNextModal<QMessageBox>([&](QMessageBox* box) {
         shownIcon = box->icon();
         shownButtons = int(box->standardButtons());
         title = box->windowTitle();
