@@ -283,7 +283,8 @@ private slots:
     {
         QTest::addColumn<QString>("page");
         // Every page in the resources is listed here, so each is checked.
-        QStringList inResources = QDir(QStringLiteral(":/help")).entryList(QDir::Files);
+        QStringList inResources =
+            QDir(QStringLiteral(":/help")).entryList({QStringLiteral("*.html")}, QDir::Files);
         QStringList listed = kHelpPages;
         inResources.sort();
         listed.sort();
@@ -298,6 +299,10 @@ private slots:
                  qPrintable(page + QStringLiteral(" is not in the resources")));
         const PageLinks p = loadHelpPage(page);
         QVERIFY2(!p.title.trimmed().isEmpty(), "no title");
+        // The look comes from the one stylesheet that every page links.
+        QVERIFY(QString::fromUtf8(readAll(QStringLiteral(":/help/") + page))
+                    .contains(QStringLiteral("href=\"help.css\"")));
+        QVERIFY(QFile::exists(QStringLiteral(":/help/help.css")));
         QVERIFY2(p.text.trimmed().size() > 200, qPrintable(QString::number(p.text.size())));
         if (page != QLatin1String("index.html")) {
             QVERIFY2(p.hrefs.contains(QStringLiteral("index.html")), "no way back to the contents");
