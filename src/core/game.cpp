@@ -2,6 +2,7 @@
 
 #include "vocabulary/word_file.h"
 
+#include <QScopedValueRollback>
 #include <QtGlobal>
 #include <cmath>
 
@@ -19,6 +20,14 @@ long long cint(double x) { return static_cast<long long>(std::nearbyint(x)); }
 
 long long idiv(double a, long long b) { return cint(a) / b; }
 
+QString capitals(const QString& word)
+{
+    // Character by character: the capital of "ß" is "ß" itself, not "SS".
+    QString out = word;
+    for (QChar& c : out) c = c.toUpper();
+    return out;
+}
+
 Board::Board()
 {
     Feld.resize(1);
@@ -35,23 +44,54 @@ Game::Game(Toolkit& toolkit) : tk_(toolkit) {}
 
 void Game::submit(Command command)
 {
-    if (ended_) return;
+    if (ended_ || !takesInput(command)) return;
     queue_.push_back(std::move(command));
     if (depth_ == 0) drain();
 }
 
+bool Game::letterTakesInput(int tile) const
+{
+    return tile >= 0 && tile < kLetters && wordOpen_ && board.alpha[tile].Visible &&
+           board.alpha[tile].Enabled;
+}
+
+bool Game::takesInput(const Command& c) const
+{
+    using K = Command::Kind;
+    switch (c.kind) {
+    case K::Tile: return letterTakesInput(c.index);
+    case K::Key: {
+        // Only a letter with a tile and Enter do anything.
+        const QChar key = QChar(char16_t(c.index)).toUpper();
+        if (key >= u'A' && key <= u'Z') return letterTakesInput(key.unicode() - u'A');
+        return c.index == 13 && board.weiter_Enabled;
+    }
+    case K::Tip: return board.tip_Enabled;
+    case K::Weiter: return board.weiter_Enabled;
+    case K::PicBut: return c.index >= 0 && c.index < 4 && board.PicBut_Visible[c.index];
+    case K::Start:
+    case K::Ende:
+    case K::Run: return true;
+    }
+    return true;
+}
+
 void Game::drain()
 {
-    while (!queue_.empty() && !ended_) {
-        const Command command = std::move(queue_.front());
-        queue_.pop_front();
-        ++depth_;
-        try {
-            execute(command);
-        } catch (const Ended&) {
-        }
-        --depth_;
+    // Inside a held wait only until the wait has ended: what is left waits for the next word.
+    while (!queue_.empty() && !ended_ && !(holding_ && !board.weiter_Enabled)) runNext();
+}
+
+void Game::runNext()
+{
+    const Command command = std::move(queue_.front());
+    queue_.pop_front();
+    ++depth_;
+    try {
+        execute(command);
+    } catch (const Ended&) {
     }
+    --depth_;
 }
 
 void Game::routine(const std::function<void()>& body)
@@ -71,10 +111,7 @@ void Game::execute(const Command& c)
     using K = Command::Kind;
     switch (c.kind) {
     case K::Tile:
-        // A hidden or disabled tile raises no click.
-        if (c.index >= 0 && c.index < kLetters && board.alpha[c.index].Visible &&
-            board.alpha[c.index].Enabled)
-            alpha_Click(c.index);
+        if (letterTakesInput(c.index)) alpha_Click(c.index);
         break;
     case K::Key: Form_KeyPress(c.index); break;
     case K::Start: start_Click(); break;
@@ -172,18 +209,14 @@ void Game::WeiterWarten()
     board.weiter_Enabled = true;
     setTilesEnabled(false);
     // The one place that runs commands as they come, so start, options and end can act
-    // while the word stands finished.
-    struct Open {
-        int& depth;
-        int saved;
-        explicit Open(int& d) : depth(d), saved(d) { depth = 0; }
-        ~Open() { depth = saved; }
-    } open(depth_);
+    // while the word stands finished: first what arrived during the guess, then what comes.
+    // Once one of them has ended the wait, the rest waits for the next word to stand.
+    const QScopedValueRollback<int> open(depth_, 0);
+    const QScopedValueRollback<bool> held(holding_, true);
     while (board.weiter_Enabled) {
-        drain(); // what arrived during the guess runs now, judged now
+        drain();
         throwIfEnded();
-        if (!board.weiter_Enabled) break;
-        tk_.waitForEvents();
+        if (board.weiter_Enabled) tk_.waitForEvents();
         throwIfEnded();
     }
 }
@@ -276,6 +309,8 @@ void Game::setTilesEnabled(bool enabled)
 
 void Game::NeuesWort()
 {
+    // Letters typed before the fields stand are not played on a word nobody has seen.
+    wordOpen_ = false;
     for (int i = 1; i <= FeldZahl && i < int(board.Feld.size()); ++i) {
         board.Feld[i].loaded = false;
         serve();
@@ -319,7 +354,7 @@ void Game::NeuesWort()
     }
     const qsizetype n = List1.size();
     const qsizetype z = qMin<qsizetype>(qsizetype(tk_.random() * double(n)), n - 1);
-    g.Wort = List1.at(z).toUpper();
+    g.Wort = capitals(List1.at(z));
     if (!einst.wiederh[0]) {
         List1.removeAt(z);
         if (List1.isEmpty()) WoerterLaden();
@@ -338,6 +373,7 @@ void Game::NeuesWort()
             Warten(0.1);
         }
     }
+    wordOpen_ = true;
 }
 
 void Game::WoerterLaden()
@@ -380,6 +416,7 @@ void Game::alpha_Click(int Index)
         }
     }
     if (g.Treffer == g.Wort.size()) {
+        wordOpen_ = false;
         wordSolved();
         return;
     }
@@ -423,6 +460,7 @@ void Game::wordSolved()
 void Game::miss()
 {
     ++g.Fehler;
+    if (g.Fehler == kLostAt) wordOpen_ = false;
     board.B_Folge_Visible[g.Fehler] = true;
     board.B_Folge_Visible[g.Fehler - 1] = false;
     serve();

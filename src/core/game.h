@@ -12,6 +12,8 @@ namespace core {
 long long cint(double x);
 // a \ b: a to the nearest whole number, then divided, the remainder dropped.
 long long idiv(double a, long long b);
+// Each character in capitals, one for one.
+QString capitals(const QString& word);
 
 // A player's action. Each is judged when it runs, not when it arrived.
 struct Command {
@@ -33,9 +35,11 @@ public:
     QStringList List1; // the words still to draw
     int16_t FeldZahl = 0;
 
-    // Every player action enters here. While a guess, a draw or a wait runs, commands are
-    // queued and run in order once it has returned; only a held WeiterWarten runs them as
-    // they come. So no guess or draw ever starts inside another.
+    // Every player action enters here. An action on a control that is disabled or hidden at
+    // this moment raises nothing, and letters count only while a word is open. While a
+    // guess, a draw or a wait runs, the rest is queued and runs in order once it has
+    // returned; only a held WeiterWarten runs commands as they come, and only until one of
+    // them has ended it. So no guess or draw ever starts inside another.
     void submit(Command command);
     void tile(int index) { submit({Command::Kind::Tile, index, {}}); }
     void key(int keyAscii) { submit({Command::Kind::Key, keyAscii, {}}); }
@@ -87,7 +91,11 @@ private:
     void nextWord();
     struct Ended {}; // unwinds a routine once the program has ended
 
+    // Whether the command's control takes input now.
+    bool takesInput(const Command& command) const;
+    bool letterTakesInput(int tile) const;
     void drain();
+    void runNext();
     void execute(const Command& command);
     void serve();
     void playSound(int n);
@@ -105,6 +113,8 @@ private:
     std::deque<Command> queue_;
     int depth_ = 0;
     bool ended_ = false;
+    bool holding_ = false;  // WeiterWarten holds the finished word
+    bool wordOpen_ = false; // the fields of a word stand and it is not yet decided
 };
 
 } // namespace core

@@ -26,8 +26,6 @@ private slots:
     void cleanup();
     void firstDraw_data();
     void firstDraw();
-    void commandInTheHeldWait_data();
-    void commandInTheHeldWait();
     void repeatModes_data();
     void repeatModes();
     void readingTheWordFile_data();
@@ -67,6 +65,7 @@ void WordCycle::firstDraw_data()
     QTest::newRow("wide window") << 0 << "owl" << 19200.0 << 8975;
     QTest::newRow("word wider than the window: towards zero")
         << 1 << "abcdefghijklmnopqrstuvwxy" << 9599.0 << -775;
+    QTest::newRow("a sharp s stays one letter") << 0 << "straße" << 9600.0 << 3500;
 }
 
 void WordCycle::firstDraw()
@@ -93,7 +92,8 @@ void WordCycle::firstDraw()
     }
     QCOMPARE(f.tk.trace({"sound", "wait", "seed"}), trace);
     QCOMPARE(heights, (QList<int>{300, 600, 900, 1200, 1500, 1800, 2100, 2400}));
-    QCOMPARE(f.game.g.Wort, word.toUpper());
+    QCOMPARE(f.game.g.Wort.size(), word.size()); // each character in capitals, one for one
+    for (qsizetype i = 0; i < word.size(); ++i) QCOMPARE(f.game.g.Wort[i], word[i].toUpper());
     QCOMPARE(f.fields(), QString(word.size(), '_'));
     for (size_t i = 1; i < f.game.board.Feld.size(); ++i) {
         QCOMPARE(f.game.board.Feld[i].Left, firstLeft + int(i - 1) * 450);
@@ -107,51 +107,6 @@ void WordCycle::firstDraw()
     QVERIFY(f.game.g.SpielLaeuft);
     QVERIFY(f.game.board.tip_Enabled);
     QCOMPARE(f.visibleStage(), 0);
-}
-
-void WordCycle::commandInTheHeldWait_data()
-{
-    QTest::addColumn<int>("button"); // the picture button pressed; -1: the options command
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<int>("points"); // -1: the program has ended
-    QTest::newRow("start, yes") << 0 << int(core::kAnswerYes) << "OX" << 0;
-    QTest::newRow("start, no, then the next word") << 0 << int(core::kAnswerNo) << "OX" << 1;
-    QTest::newRow("options changed") << -1 << 0 << "ELK" << 0;
-    QTest::newRow("end, no, then the next word") << 1 << int(core::kAnswerNo) << "OX" << 1;
-    QTest::newRow("end, yes") << 1 << int(core::kAnswerYes) << "" << -1;
-}
-
-void WordCycle::commandInTheHeldWait()
-{
-    QFETCH(int, button);
-    QFETCH(int, answer);
-    QFETCH(QString, word);
-    QFETCH(int, points);
-    QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"elk"}));
-    GameFixture f({"ox"});
-    f.game.start();
-    f.tk.log.clear();
-    f.tk.answers.push_back(answer);
-    f.tk.whenHeld([&] {
-        if (button >= 0) f.game.picBut(button);
-        else f.game.run([&] { f.game.opt_Click([&] { f.game.g.EinstGeaendert = true; }); });
-    });
-    f.tk.whenHeld([&] { f.game.picBut(3); }); // after a No the word still stands finished
-    type(f.game, "ox");
-    if (points < 0) {
-        QVERIFY(f.game.ended());
-        QCOMPARE(f.tk.log.last(), QString("end")); // no draw after the end, nor later
-        f.game.key('o');
-        f.game.start();
-        QCOMPARE(f.tk.log.last(), QString("end"));
-        return;
-    }
-    // One draw, after the half second that follows a solved word.
-    QCOMPARE(f.tk.trace({"wait 0.5", "sound 0"}), (QStringList{"wait 0.5", "sound 0"}));
-    QCOMPARE(int(f.game.g.Punkte[0]), points);
-    QCOMPARE(f.game.g.Wort, word);
-    QVERIFY(!f.game.board.PicBut_Visible[3]);
 }
 
 void WordCycle::repeatModes_data()
