@@ -55,25 +55,27 @@ void Guesses::wordEnds_data()
     QTest::addColumn<int>("solution");
     QTest::addColumn<QStringList>("trace");
     QTest::addColumn<int>("points");
+    QTest::addColumn<int>("turn"); // of four players: every miss passes it, the ninth too
     const QStringList held{"hold", "wait 0.5"};
     // P stands twice in POP: two sounds for one key.
     QTest::newRow("solved, sound on")
         << "po" << 1 << "POP" << 1
         << QStringList{"sound 4", "sound 4", "sound 4", "seed", "sound 7", "wait 0.1"} + held +
                draw(true, 3)
-        << 1;
-    QTest::newRow("solved, sound off") << "po" << 0 << "POP" << 1 << held + draw(false, 3) << 1;
+        << 1 << 0;
+    QTest::newRow("solved, sound off")
+        << "po" << 0 << "POP" << 1 << held + draw(false, 3) << 1 << 0;
     // The solution uncovers in the order of the alphabet: O, then both P.
     QTest::newRow("lost, sound on")
         << "abcdefghi" << 1 << "POP" << 1
         << times({"sound 3", "wait 0.1"}, 8) + QStringList{"sound 2", "wait 1.5"} +
                times({"wait 0.1", "sound 1"}, 3) + QStringList{"hold"} + draw(true, 3)
-        << 0;
-    QTest::newRow("lost, sound off")
-        << "abcdefghi" << 0 << "POP" << 1
-        << times({"wait 0.1"}, 3) + QStringList{"hold"} + draw(false, 3) << 0;
+        << 0 << 1;
+    QTest::newRow("lost, sound off: a letter found is shown again")
+        << "oabcdefghi" << 0 << "POP" << 1
+        << times({"wait 0.1"}, 3) + QStringList{"hold"} + draw(false, 3) << 0 << 1;
     QTest::newRow("lost, solution off: fields stay")
-        << "oabcdefghi" << 0 << "_O_" << 0 << QStringList{"hold"} + draw(false, 3) << 0;
+        << "oabcdefghi" << 0 << "_O_" << 0 << QStringList{"hold"} + draw(false, 3) << 0 << 1;
 }
 
 void Guesses::wordEnds()
@@ -84,6 +86,7 @@ void Guesses::wordEnds()
     QFETCH(int, solution);
     QFETCH(QStringList, trace);
     QFETCH(int, points);
+    QFETCH(int, turn);
     GameFixture f({"pop"});
     f.game.einst.Sound = sound;
     f.game.einst.Anzeige = solution;
@@ -103,6 +106,7 @@ void Guesses::wordEnds()
     QCOMPARE(fieldsAtHold, atHold);
     QCOMPARE(int(f.game.g.Punkte[0]), points);
     QCOMPARE(f.visiblePoints(0), points);
+    QCOMPARE(int(f.game.g.AktSpieler), turn);
     // The next word stands fresh.
     QCOMPARE(f.fields(), QString("___"));
     QCOMPARE(f.visibleStage(), 0);
