@@ -145,6 +145,18 @@ void Game::WoerterLaden()
 
 // The scoreboard rows and the motif's pictures.
 
+void Game::setUpBoard()
+{
+    for (int i = 0; i < kPlayers; ++i) {
+        createPlayerLabel(i);
+        board.Spieler[i].Caption = einst.Spieler_Name[i];
+        createPlayerSymbols(i);
+    }
+    MotivSetzen();
+    board.B_Folge_Visible[0] = true;
+    routine([this] { NeuesSpiel(); });
+}
+
 void Game::createPlayerLabel(int i)
 {
     if (i < 0 || i >= kPlayers) return;

@@ -50,6 +50,9 @@ public:
     void picBut(int index) { submit({Command::Kind::PicBut, index, {}}); }
     void run(std::function<void()> handler) { submit({Command::Kind::Run, 0, std::move(handler)}); }
 
+    // Start-up's part of the game: the four scoreboard rows with the names in the options,
+    // the motif's pictures, stage 0, and a new game.
+    void setUpBoard();
     // Runs a routine outside any command (start-up). Stops quietly if the program ends.
     void routine(const std::function<void()>& body);
     bool busy() const { return depth_ > 0; }

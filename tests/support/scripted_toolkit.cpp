@@ -67,13 +67,7 @@ int ScriptedToolkit::msgBox(const QString& text, int type, const QString& title)
 GameFixture::GameFixture(const QStringList& words, int players)
 {
     game.g.AnzSpieler = int16_t(players);
-    for (int i = 0; i < core::kPlayers; ++i) {
-        game.createPlayerLabel(i);
-        game.createPlayerSymbols(i);
-    }
-    game.MotivSetzen();
-    game.board.B_Folge_Visible[0] = true;
-    game.NeuesSpiel();
+    game.setUpBoard();
     game.List1 = words;
     tk.log.clear();
 }
