@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
+#include <cerrno>
 
 namespace vocabulary {
 namespace {
@@ -161,8 +162,14 @@ std::optional<Failure> writeWordFile(const QString& fileName, const QStringList&
     }
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly)) return kAccess;
-    if (file.write(bytes) != bytes.size()) {
-        const bool full = file.error() == QFileDevice::ResourceError;
+    // commit() would rename a short file over the old one when the last buffered write failed
+    // (a full disk), so every byte must have reached the file first.
+    errno = 0;
+    if (file.write(bytes) != bytes.size() || !file.flush() ||
+        file.error() != QFileDevice::NoError) {
+        const int error = errno;
+        const bool full =
+            error == ENOSPC || error == EFBIG || file.error() == QFileDevice::ResourceError;
         file.cancelWriting();
         return full ? kDiskFull : kDeviceIo;
     }

@@ -1,6 +1,7 @@
-// Word files: how items are read and filtered, how reading and writing fail, what the
-// writer produces, and the Windows-1252 mapping underneath.
+// Word files: how items are read and filtered, what the writer produces, how reading and
+// writing fail (a full disk too), and the Windows-1252 mapping underneath.
 #include "support/files.h"
+#include "support/trap_folder.h"
 #include "vocabulary/codepage.h"
 #include "vocabulary/word_file.h"
 
@@ -8,6 +9,7 @@
 #include <QStringDecoder>
 #include <QTemporaryDir>
 #include <QTest>
+#include <optional>
 
 using support::readAll;
 using support::writeBytes;
@@ -17,10 +19,9 @@ class WordFile : public QObject {
 private slots:
     void items_data();
     void items();
-    void failures_data();
-    void failures();
+    void writes_data();
+    void writes();
     void everyByteRoundTrips();
-    void writer();
 
 private:
     QTemporaryDir dir_;
@@ -73,40 +74,55 @@ void WordFile::items()
     }
 }
 
-void WordFile::failures_data()
+void WordFile::writes_data()
 {
+    using B = QByteArray;
+    using L = QStringList;
     QTest::addColumn<QString>("setup");
-    QTest::addColumn<int>("readNumber");
-    QTest::addColumn<QString>("readText");
+    QTest::addColumn<int>("readNumber"); // 0: "old" is read
+    QTest::addColumn<QStringList>("words");
     QTest::addColumn<int>("writeNumber"); // 0: the write succeeds
-    QTest::newRow("missing file") << "none" << 53 << "File not found" << 0;
-    QTest::newRow("zero bytes") << "empty" << 62 << "Input past end of file" << 0;
-    QTest::newRow("a directory in its place") << "dir" << 75 << "Path/File access error" << 75;
-    QTest::newRow("a missing folder") << "nofolder" << 53 << "File not found" << 76;
+    QTest::addColumn<QByteArray>("after");
+    const B cat("cat\r\n"), old("old\r\n"), none("<unreadable>");
+    QTest::newRow("CR LF after every line")
+        << "old" << 0 << L{"cat", "", "Möwe"} << 0 << B("cat\r\n\r\nM\xF6we\r\n");
+    QTest::newRow("an empty list: not even a line end") << "old" << 0 << L{} << 0 << B("");
+    QTest::newRow("missing file") << "none" << 53 << L{"cat"} << 0 << cat;
+    QTest::newRow("zero bytes") << "empty" << 62 << L{"cat"} << 0 << cat;
+    QTest::newRow("a directory in its place") << "dir" << 75 << L{"cat"} << 75 << none;
+    QTest::newRow("a missing folder") << "nofolder" << 53 << L{"cat"} << 76 << none;
+    QTest::newRow("a full disk keeps the old file") << "full" << 0 << L{"cat"} << 61 << old;
 }
 
-void WordFile::failures()
+void WordFile::writes()
 {
     QFETCH(QString, setup);
     QFETCH(int, readNumber);
-    QFETCH(QString, readText);
+    QFETCH(QStringList, words);
     QFETCH(int, writeNumber);
+    QFETCH(QByteArray, after);
     QTemporaryDir tmp;
-    QString path = tmp.filePath("w.dat");
+    const QString folder = tmp.filePath(setup == "nofolder" ? "nowhere" : "words");
+    const QString path = folder + "/w.dat";
+    std::optional<support::TrapFolder> trap;
+    if (setup == "full") trap.emplace(folder, support::TrapFolder::FullDisk);
+    if (setup != "nofolder") QVERIFY(QDir().mkpath(folder));
     if (setup == "empty") QVERIFY(writeBytes(path, {}));
     if (setup == "dir") QVERIFY(QDir().mkpath(path + "/keep"));
-    if (setup == "nofolder") path = tmp.filePath("nowhere/w.dat");
+    if (!readNumber) QVERIFY(writeBytes(path, "old\r\n"));
 
     const auto r = vocabulary::readWordFile(path);
-    QCOMPARE(r.words, QStringList());
-    QCOMPARE(r.failure, (vocabulary::Failure{readNumber, readText}));
+    QCOMPARE(r.failure ? r.failure->number : 0, readNumber);
+    QCOMPARE(r.words, readNumber ? QStringList() : QStringList{"old"});
 
-    const auto failure = vocabulary::writeWordFile(path, {"cat"});
-    QCOMPARE(failure ? failure->number : 0, writeNumber);
-    if (!writeNumber) QCOMPARE(readAll(path), QByteArray("cat\r\n"));
-    else QVERIFY(!failure->text.isEmpty());
-    // A failed write leaves what was there, and no temporary file beside it.
-    QCOMPARE(QDir(tmp.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+    const auto write = [&] {
+        const auto failure = vocabulary::writeWordFile(path, words);
+        return failure ? failure->number : 0;
+    };
+    QCOMPARE(trap ? trap->run(write) : write(), writeNumber);
+    QCOMPARE(readAll(path), after);
+    // Nothing is left beside the file, not even when the write failed.
+    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              writeNumber == 76 ? QStringList() : QStringList{"w.dat"});
     QCOMPARE(QDir(path + "/keep").exists(), setup == "dir");
 }
@@ -122,16 +138,6 @@ void WordFile::everyByteRoundTrips()
     QVERIFY(platform.isValid());
     QCOMPARE(text, QString(platform.decode(all)));
     QCOMPARE(vocabulary::encodeCp1252(u"Ä€Ω中"), QByteArray("\xC4\x80??"));
-}
-
-void WordFile::writer()
-{
-    const QString path = dir_.filePath("out.dat");
-    QVERIFY(writeBytes(path, "old contents"));
-    QVERIFY(!vocabulary::writeWordFile(path, {"cat", "", "Möwe"}));
-    QCOMPARE(readAll(path), QByteArray("cat\r\n\r\nM\xF6we\r\n")); // CR LF after every line
-    QVERIFY(!vocabulary::writeWordFile(path, {}));
-    QCOMPARE(readAll(path), QByteArray("")); // not even a line end
 }
 
 QTEST_GUILESS_MAIN(WordFile)
