@@ -161,6 +161,9 @@ std::optional<Failure> writeWordFile(const QString& fileName, const QStringList&
         bytes += "\r\n";
     }
     QSaveFile file(fileName);
+    // A folder that takes no new file may still hold a writable one: then it is written in
+    // place. Everywhere else the old file stays whole until the new one is.
+    file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) return kAccess;
     // commit() would rename a short file over the old one when the last buffered write failed
     // (a full disk), so every byte must have reached the file first.

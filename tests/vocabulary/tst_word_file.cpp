@@ -92,6 +92,8 @@ void WordFile::writes_data()
     QTest::newRow("a directory in its place") << "dir" << 75 << L{"cat"} << 75 << none;
     QTest::newRow("a missing folder") << "nofolder" << 53 << L{"cat"} << 76 << none;
     QTest::newRow("a full disk keeps the old file") << "full" << 0 << L{"cat"} << 61 << old;
+    QTest::newRow("a read-only folder: written in place")
+        << "readonly" << 0 << L{"cat"} << 0 << cat;
 }
 
 void WordFile::writes()
@@ -106,6 +108,7 @@ void WordFile::writes()
     const QString path = folder + "/w.dat";
     std::optional<support::TrapFolder> trap;
     if (setup == "full") trap.emplace(folder, support::TrapFolder::FullDisk);
+    if (setup == "readonly") trap.emplace(folder, support::TrapFolder::ReadOnly);
     if (setup != "nofolder") QVERIFY(QDir().mkpath(folder));
     if (setup == "empty") QVERIFY(writeBytes(path, {}));
     if (setup == "dir") QVERIFY(QDir().mkpath(path + "/keep"));
