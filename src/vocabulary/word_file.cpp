@@ -70,10 +70,9 @@ void ItemReader::feed(QByteArrayView chunk)
             else append(c);
             break;
         case State::Quoted:
-            // A line end also closes a quote left open, so one stray quote cannot swallow
-            // the rest of the file.
+            // Line ends belong to the item; a stray quote runs to the end of the file, and
+            // only the item's first bytes are kept.
             if (c == '"') state_ = State::AfterQuote;
-            else if (isLineEnd(c)) endItem();
             else append(c);
             break;
         case State::AfterQuote:

@@ -38,7 +38,8 @@ void WordFile::items_data()
     QTest::newRow("bare LF") << B("cat\ndog\n") << L{"cat", "dog"};
     QTest::newRow("quoted comma, tail dropped") << B("\"a,b\"x,emu\r\n") << L{"a,b", "emu"};
     QTest::newRow("end of file in quotes") << B("\"cat") << L{"cat"};
-    QTest::newRow("a stray quote ends at the line") << B("\"cat\r\ndog") << L{"cat", "dog"};
+    QTest::newRow("quotes run across line ends, to the end of the file if need be")
+        << B("\"a\r\nb\"\r\ncat\r\n\"dog\r\nemu") << L{"a\r\nb", "cat", "dog\r\nemu"};
     QTest::newRow("leading blanks dropped") << B("   cat\r\n\ta b\r\n") << L{"cat", "a b"};
     QTest::newRow("empty items") << B("cat\r\n\r\n,dog\r\n") << L{"cat", "", "", "dog"};
     QTest::newRow("only blanks") << B("   ") << L{""};
