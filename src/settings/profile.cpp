@@ -148,15 +148,23 @@ bool Profile::WritePrivateProfileString(const QString& section, const QString& k
     QByteArray bytes = lines.join("\r\n");
     bytes += "\r\n";
 
-    const QFileInfo info(path_);
-    if (!QDir().mkpath(info.absolutePath())) return false;
-    QSaveFile file(path_);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    if (file.write(bytes) != bytes.size()) {
-        file.cancelWriting();
+    // A failed write shows no message: the game goes on with its live values.
+    const auto failed = [this](const QString& why) {
+        qWarning("%s not saved: %s", qPrintable(path_), qPrintable(why));
         return false;
+    };
+    if (!QDir().mkpath(QFileInfo(path_).absolutePath())) return failed("no folder");
+    QSaveFile file(path_);
+    if (!file.open(QIODevice::WriteOnly)) return failed(file.errorString());
+    // commit() would rename a short file over the old one when the last buffered write failed
+    // (a full disk), so every byte must have reached the file first.
+    if (file.write(bytes) != bytes.size() || !file.flush() ||
+        file.error() != QFileDevice::NoError) {
+        const QString why = file.errorString();
+        file.cancelWriting();
+        return failed(why);
     }
-    return file.commit();
+    return file.commit() || failed(file.errorString());
 }
 
 QString Profile::defaultPath()

@@ -1,12 +1,14 @@
 // The settings file against golden cases (a file before, the operations, the file after),
 // the number form, and which stored names stand for the default ones.
 #include "../support/files.h"
+#include "../support/trap_folder.h"
 #include "settings/options.h"
 #include "settings/profile.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+#include <optional>
 
 using support::readAll;
 
@@ -15,8 +17,8 @@ class ProfileTest : public QObject {
 private slots:
     void golden_data();
     void golden();
-    void unwritableFolder_data();
-    void unwritableFolder();
+    void failedWrite_data();
+    void failedWrite();
     void numbersAndNames();
 };
 
@@ -63,22 +65,33 @@ void ProfileTest::golden()
                  QStringList{"frostel.ini"});
 }
 
-void ProfileTest::unwritableFolder_data()
+void ProfileTest::failedWrite_data()
 {
     QTest::addColumn<QString>("blocker");
     QTest::newRow("a file where the folder should be") << "config";
     QTest::newRow("a folder where the file should be") << "config/frostel.ini";
+    QTest::newRow("a full disk keeps the old file") << "full";
+    QTest::newRow("a read-only folder takes no new file") << "readonly";
 }
 
-void ProfileTest::unwritableFolder()
+void ProfileTest::failedWrite()
 {
     QFETCH(QString, blocker);
     QTemporaryDir tmp;
+    const QString path = tmp.filePath("config/frostel.ini");
+    std::optional<support::TrapFolder> trap;
+    if (blocker == "full") trap.emplace(tmp.filePath("config"), support::TrapFolder::FullDisk);
+    if (blocker == "readonly") trap.emplace(tmp.filePath("config"), support::TrapFolder::ReadOnly);
     if (blocker == "config") QVERIFY(support::writeBytes(tmp.filePath(blocker), "x"));
-    else QVERIFY(QDir().mkpath(tmp.filePath(blocker)));
-    settings::Profile profile(tmp.filePath("config/frostel.ini"));
-    QVERIFY(!profile.WritePrivateProfileString("Window", "Status", " 0"));
-    QCOMPARE(profile.GetPrivateProfileInt("Window", "Status", 5), 5);
+    if (blocker == "config/frostel.ini") QVERIFY(QDir().mkpath(path));
+    const QByteArray before("[Window]\r\nTop= 200\r\n");
+    if (blocker == "full") QVERIFY(support::writeBytes(path, before));
+    settings::Profile profile(path);
+    const auto write = [&] {
+        return int(profile.WritePrivateProfileString("Window", "Top", " 0"));
+    };
+    QCOMPARE(trap ? trap->run(write) : write(), 0);
+    QCOMPARE(readAll(path), blocker == "full" ? before : QByteArray("<unreadable>"));
 }
 
 void ProfileTest::numbersAndNames()
