@@ -13,9 +13,6 @@
 namespace settings {
 namespace {
 
-// A settings file is small; anything far larger is not ours to read whole.
-constexpr qint64 kMaxFileSize = 1 << 20;
-
 // A line with control characters is no text; it is neither read nor written back.
 bool isText(const QByteArray& line)
 {
@@ -28,7 +25,7 @@ QList<QByteArray> readLines(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.read(kMaxFileSize);
+    const QByteArray bytes = file.readAll(); // whole, whatever its size: nothing may be cut
     QList<QByteArray> lines;
     for (QByteArray l : bytes.split('\n')) {
         if (l.endsWith('\r')) l.chop(1);

@@ -6,17 +6,20 @@
 #include "settings/profile.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <optional>
 
 using support::readAll;
+using support::writeBytes;
 
 class ProfileTest : public QObject {
     Q_OBJECT
 private slots:
     void golden_data();
     void golden();
+    void largeFile();
     void failedWrite_data();
     void failedWrite();
     void numbersAndNames();
@@ -65,6 +68,24 @@ void ProfileTest::golden()
                  QStringList{"frostel.ini"});
 }
 
+void ProfileTest::largeFile()
+{
+    // Megabytes of lines of its own: a write keeps every one, and the keys after them too.
+    QByteArray notes;
+    for (int i = 0; i < 150000; ++i) notes += "note" + QByteArray::number(i) + "=kept as it is\r\n";
+    QTemporaryDir tmp;
+    const QString path = tmp.filePath("frostel.ini");
+    QVERIFY(writeBytes(path, "[Window]\r\nTop= 1\r\n[Notes]\r\n" + notes + "[Einstellungen]\r\n"));
+    settings::Profile profile(path);
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(profile.WritePrivateProfileString("Einstellungen", "Tips", " 2"));
+    QVERIFY(profile.WritePrivateProfileString("Window", "Status", " 0"));
+    qInfo("two writes to %lld bytes: %lld ms", notes.size(), clock.elapsed());
+    QCOMPARE(readAll(path), "[Window]\r\nTop= 1\r\nStatus= 0\r\n[Notes]\r\n" + notes +
+                                "[Einstellungen]\r\nTips= 2\r\n");
+}
+
 void ProfileTest::failedWrite_data()
 {
     QTest::addColumn<QString>("blocker");
@@ -82,10 +103,10 @@ void ProfileTest::failedWrite()
     std::optional<support::TrapFolder> trap;
     if (blocker == "full") trap.emplace(tmp.filePath("config"), support::TrapFolder::FullDisk);
     if (blocker == "readonly") trap.emplace(tmp.filePath("config"), support::TrapFolder::ReadOnly);
-    if (blocker == "config") QVERIFY(support::writeBytes(tmp.filePath(blocker), "x"));
+    if (blocker == "config") QVERIFY(writeBytes(tmp.filePath(blocker), "x"));
     if (blocker == "config/frostel.ini") QVERIFY(QDir().mkpath(path));
     const QByteArray before("[Window]\r\nTop= 200\r\n");
-    if (blocker == "full") QVERIFY(support::writeBytes(path, before));
+    if (blocker == "full") QVERIFY(writeBytes(path, before));
     settings::Profile profile(path);
     const auto write = [&] {
         return int(profile.WritePrivateProfileString("Window", "Top", " 0"));
