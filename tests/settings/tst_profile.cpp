@@ -1,5 +1,6 @@
 // The settings file against golden cases (a file before, the operations, the file after),
-// the number form, and which stored names stand for the default ones.
+// a large file, failed writes, the number form, which stored names stand for the default
+// ones, and the word files the options offer.
 #include "../support/files.h"
 #include "../support/trap_folder.h"
 #include "settings/options.h"
@@ -22,7 +23,7 @@ private slots:
     void largeFile();
     void failedWrite_data();
     void failedWrite();
-    void numbersAndNames();
+    void numbersNamesAndFiles();
 };
 
 void ProfileTest::golden_data()
@@ -115,7 +116,7 @@ void ProfileTest::failedWrite()
     QCOMPARE(readAll(path), blocker == "full" ? before : QByteArray("<unreadable>"));
 }
 
-void ProfileTest::numbersAndNames()
+void ProfileTest::numbersNamesAndFiles()
 {
     // Numbers are written as the game prints them: a blank where a minus sign would go.
     QCOMPARE(settings::numberForm(0), " 0");
@@ -126,6 +127,16 @@ void ProfileTest::numbersAndNames()
         QVERIFY2(settings::isDefaultName(name), name);
     for (const char* name : {"Spieler 0", "Spieler 5", "Spieler1"})
         QVERIFY2(!settings::isDefaultName(name), name);
+    // The vocabulary list: the folder's "*.dat" files, sorted as they are matched: by name,
+    // without regard to case.
+    QTemporaryDir tmp;
+    for (const char* name : {"UPPER.DAT", "frostel.dat", "b.Dat", "notes.txt"})
+        QVERIFY(writeBytes(tmp.filePath(name), "x"));
+    const QString cwd = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(tmp.path()));
+    const QStringList rows = settings::wordFileRows();
+    QDir::setCurrent(cwd);
+    QCOMPARE(rows, (QStringList{"b.Dat", "frostel.dat", "UPPER.DAT"}));
 }
 
 QTEST_GUILESS_MAIN(ProfileTest)
