@@ -47,9 +47,10 @@ void ProfileTest::golden()
     }
     settings::Profile profile(path);
     // One operation a line: int|section|key|default|expected, str|section|key|default|size|
-    // expected, or write|section|key|value.
+    // expected, or write|section|key|value; "#" starts a comment.
     for (const QString& line : QString::fromUtf8(readAll(golden.filePath(name + ".ops")))
                                    .split('\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith('#')) continue;
         QStringList f = line.split('|');
         for (QString& v : f) v.replace("<255 blanks>", QString(255, ' '));
         if (f[0] == "int") {
