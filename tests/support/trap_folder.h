@@ -1,9 +1,8 @@
 #pragma once
-// A folder where writing fails as it does on a player's machine, also as root (as in CI),
-// where permissions stop nothing: the write runs in a child process without root's powers.
-// A full disk is a small tmpfs, mounted and filled where the test may mount one, else a file
-// size limit of zero in the child (EFBIG stands in for ENOSPC). A read-only folder takes no
-// new file, while the files in it stay writable.
+// A folder where writes fail as on a player's machine, also as root (as in CI), where
+// permissions stop nothing: the write runs in a child process without root's powers.
+// "full disk": a small tmpfs, mounted and filled where the test may mount one, else a file
+// size limit of 0 in the child. "read-only": no new file, but its files stay writable.
 #include <QDir>
 #include <QFile>
 #include <csignal>
@@ -19,51 +18,43 @@ namespace support {
 
 class TrapFolder {
 public:
-    enum Kind { FullDisk, ReadOnly };
-
-    TrapFolder(const QString& path, Kind kind) : path_(path), kind_(kind)
+    TrapFolder(const QString& path, const QString& trap) : path_(path), trap_(trap)
     {
+        if (trap != "full disk" && trap != "read-only") return;
         QDir().mkpath(path);
-        if (kind != FullDisk) return;
-        mounted_ = mount("tmpfs", qPrintable(path), "tmpfs", 0, "size=64k") == 0;
-        qInfo("full disk: %s", mounted_ ? "a small tmpfs, filled" : "a file size limit of 0");
+        mounted_ = trap == "full disk" && !mount("tmpfs", qPrintable(path), "tmpfs", 0, "size=64k");
+        if (trap == "full disk") qInfo("full disk: %s", mounted_ ? "a tmpfs" : "a size limit");
     }
-    ~TrapFolder()
-    {
-        if (mounted_) umount2(qPrintable(path_), MNT_DETACH);
-    }
+    ~TrapFolder() { umount2(qPrintable(path_), MNT_DETACH); } // fails where nothing is mounted
 
-    // Runs `write` with the trap set and returns its result (0 to 255).
+    // Runs `write` with the trap set, in a child if there is one; returns its result (0-255).
     int run(const std::function<int()>& write)
     {
+        if (trap_ != "full disk" && trap_ != "read-only") return write();
         QFile filler(path_ + "/filler");
-        const QByteArray page(4096, 'f');
         if (mounted_ && filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            while (filler.write(page) > 0) continue;
+            while (filler.write(QByteArray(4096, 'f')) > 0) continue;
         const auto permissions = QFile::permissions(path_);
-        if (kind_ == ReadOnly) QFile::setPermissions(path_, QFile::ReadOwner | QFile::ExeOwner);
-        const pid_t child = fork();
-        if (child == 0) {
+        if (trap_ == "read-only") QFile::setPermissions(path_, QFile::ReadOwner | QFile::ExeOwner);
+        int status = -1;
+        if (const pid_t child = fork(); child == 0) {
             __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
             __user_cap_data_struct none[2]{};
+            const rlimit zero{0, 0};
             syscall(SYS_capset, &head, none);
-            if (kind_ == FullDisk && !mounted_) {
-                const rlimit zero{0, 0};
-                signal(SIGXFSZ, SIG_IGN); // so that the write fails instead
-                setrlimit(RLIMIT_FSIZE, &zero);
-            }
+            signal(SIGXFSZ, SIG_IGN); // the write fails instead
+            if (trap_ == "full disk" && !mounted_) setrlimit(RLIMIT_FSIZE, &zero);
             _exit(write());
+        } else if (child > 0) {
+            waitpid(child, &status, 0);
         }
-        int status = -1;
-        if (child > 0) waitpid(child, &status, 0);
         QFile::setPermissions(path_, permissions);
         filler.remove();
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
 private:
-    QString path_;
-    Kind kind_;
+    QString path_, trap_;
     bool mounted_ = false;
 };
 
