@@ -40,7 +40,7 @@ void ProfileTest::golden()
         QString::fromUtf8(readAll(golden.filePath(name + ".ops"))).split('\n', Qt::SkipEmptyParts);
     // A first line "trap|full disk" or "trap|read-only" sets that trap on the file's folder.
     support::TrapFolder trap(tmp.filePath("config"),
-                             ops[0].startsWith("trap|") ? ops[0].mid(5) : "");
+                             ops.value(0).startsWith("trap|") ? ops.value(0).mid(5) : "");
     // "<megabytes>" stands for some megabytes of lines, made here rather than kept.
     static const QByteArray megabytes = [] {
         QByteArray lines;
