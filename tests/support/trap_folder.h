@@ -25,7 +25,10 @@ public:
         mounted_ = trap == "full disk" && !mount("tmpfs", qPrintable(path), "tmpfs", 0, "size=64k");
         if (trap == "full disk") qInfo("full disk: %s", mounted_ ? "a tmpfs" : "a size limit");
     }
-    ~TrapFolder() { umount2(qPrintable(path_), MNT_DETACH); } // fails where nothing is mounted
+    ~TrapFolder()
+    {
+        if (mounted_) umount2(qPrintable(path_), MNT_DETACH);
+    }
 
     // Runs `write` with the trap set, in a child if there is one; returns its result (0-255).
     int run(const std::function<int()>& write)
