@@ -7,8 +7,10 @@ namespace settings {
 QStringList wordFileRows()
 {
     // "*.dat" by hand: a name filter would load the regular-expression engine at start-up.
+    // Sorted without regard to case, as the list is matched.
     QStringList rows;
-    for (const QString& name : QDir::current().entryList(QDir::Files | QDir::Readable, QDir::Name))
+    const auto sort = QDir::Name | QDir::IgnoreCase;
+    for (const QString& name : QDir::current().entryList(QDir::Files | QDir::Readable, sort))
         if (name.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive)) rows << name;
     return rows;
 }

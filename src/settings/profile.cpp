@@ -13,28 +13,22 @@
 namespace settings {
 namespace {
 
-// A settings file is small; anything far larger is not ours to read whole.
-constexpr qint64 kMaxFileSize = 1 << 20;
-
-// A line with control characters is no text; it is neither read nor written back.
-bool isText(const QByteArray& line)
-{
-    for (const char c : line)
-        if (static_cast<unsigned char>(c) < 0x20 && c != '\t') return false;
-    return true;
-}
-
+// The file's lines without their ends: CR LF, LF and CR alone each end a line. Every other
+// byte stays, control bytes too, so that a rewrite gives back what it does not touch.
 QList<QByteArray> readLines(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = file.read(kMaxFileSize);
+    const QByteArray bytes = file.readAll(); // whole, whatever its size: nothing may be cut
     QList<QByteArray> lines;
-    for (QByteArray l : bytes.split('\n')) {
-        if (l.endsWith('\r')) l.chop(1);
-        if (isText(l)) lines << l;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] != '\r' && bytes[i] != '\n') continue;
+        lines << bytes.mid(start, i - start);
+        if (bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
+        start = i + 1;
     }
-    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+    if (start < bytes.size()) lines << bytes.mid(start);
     return lines;
 }
 
@@ -48,13 +42,22 @@ QString sectionName(const QByteArray& line)
     return vocabulary::decodeCp1252(t.mid(1, close - 1)).trimmed();
 }
 
+// A value as read: up to a NUL (it ends a C string), without the blanks around it, and
+// without one pair of double quotes around it.
+QString valueText(QByteArray bytes)
+{
+    if (const qsizetype nul = bytes.indexOf('\0'); nul >= 0) bytes.truncate(nul);
+    const QString v = vocabulary::decodeCp1252(bytes).trimmed();
+    return v.size() >= 2 && v.startsWith('"') && v.endsWith('"') ? v.mid(1, v.size() - 2) : v;
+}
+
 bool isKeyLine(const QByteArray& line, const QString& key, QString* value = nullptr)
 {
     const qsizetype eq = line.indexOf('=');
     if (eq < 0) return false;
     if (vocabulary::decodeCp1252(line.left(eq)).trimmed().compare(key, Qt::CaseInsensitive) != 0)
         return false;
-    if (value) *value = vocabulary::decodeCp1252(line.mid(eq + 1)).trimmed();
+    if (value) *value = valueText(line.mid(eq + 1));
     return true;
 }
 
@@ -95,10 +98,7 @@ int Profile::GetPrivateProfileInt(const QString& section, const QString& key, in
     qsizetype i = 0;
     while (i < v.size() && (v[i] == ' ' || v[i] == '\t')) ++i;
     bool negative = false;
-    if (i < v.size() && v[i] == '-') {
-        negative = true;
-        ++i;
-    }
+    if (i < v.size() && (v[i] == '-' || v[i] == '+')) negative = v[i++] == '-';
     long long n = 0;
     for (; i < v.size() && v[i].isDigit() && v[i].unicode() < 128; ++i) {
         n = n * 10 + (v[i].unicode() - '0');
@@ -148,15 +148,23 @@ bool Profile::WritePrivateProfileString(const QString& section, const QString& k
     QByteArray bytes = lines.join("\r\n");
     bytes += "\r\n";
 
-    const QFileInfo info(path_);
-    if (!QDir().mkpath(info.absolutePath())) return false;
-    QSaveFile file(path_);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    if (file.write(bytes) != bytes.size()) {
-        file.cancelWriting();
+    // A failed write shows no message: the game goes on with its live values.
+    const auto failed = [this](const QString& why) {
+        qWarning("%s not saved: %s", qPrintable(path_), qPrintable(why));
         return false;
+    };
+    if (!QDir().mkpath(QFileInfo(path_).absolutePath())) return failed("no folder");
+    QSaveFile file(path_);
+    if (!file.open(QIODevice::WriteOnly)) return failed(file.errorString());
+    // commit() would rename a short file over the old one when the last buffered write failed
+    // (a full disk), so every byte must have reached the file first.
+    if (file.write(bytes) != bytes.size() || !file.flush() ||
+        file.error() != QFileDevice::NoError) {
+        const QString why = file.errorString();
+        file.cancelWriting();
+        return failed(why);
     }
-    return file.commit();
+    return file.commit() || failed(file.errorString());
 }
 
 QString Profile::defaultPath()

@@ -16,10 +16,10 @@ public:
     const QString& path() const { return path_; }
 
     // The value as a number, or the default when the key or the file is missing. Reads a
-    // blank before the digits and a leading minus sign; stops at the first other character.
+    // blank before the digits and a leading sign; stops at the first other character.
     int GetPrivateProfileInt(const QString& section, const QString& key, int def) const;
-    // At most size - 1 characters of the value, or of the default (its trailing blanks
-    // dropped) when the key or the file is missing.
+    // At most size - 1 characters of the value (one pair of double quotes around it taken
+    // away), or of the default (its trailing blanks dropped) when the key or file is missing.
     QString GetPrivateProfileString(const QString& section, const QString& key, const QString& def,
                                     int size) const;
     // Adds or replaces the key, creating file and section as needed; every other line

