@@ -125,7 +125,8 @@ ReadResult readWordFile(const QString& fileName)
         r.failure = Failure{kFileNotFound, QStringLiteral("File not found")};
         return r;
     }
-    if (info.isDir()) {
+    if (!info.isFile()) {
+        // A folder, a device or a pipe: reading one would never end, or never begin.
         r.failure = kAccess;
         return r;
     }

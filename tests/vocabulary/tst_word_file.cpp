@@ -9,6 +9,7 @@
 #include <QStringDecoder>
 #include <QTemporaryDir>
 #include <QTest>
+#include <sys/stat.h>
 
 using support::readAll;
 using support::writeBytes;
@@ -90,6 +91,7 @@ void WordFile::writes_data()
     QTest::newRow("missing file") << "none" << 53 << L{"cat"} << 0 << cat;
     QTest::newRow("zero bytes") << "empty" << 62 << L{"cat"} << 0 << cat;
     QTest::newRow("a directory in its place") << "dir" << 75 << L{"cat"} << 75 << none;
+    QTest::newRow("a pipe in its place: never read") << "fifo" << 75 << L{"cat"} << 0 << cat;
     QTest::newRow("a missing folder") << "nofolder" << 53 << L{"cat"} << 76 << none;
     QTest::newRow("a full disk keeps the old file") << "full disk" << 0 << L{"cat"} << 61 << old;
     QTest::newRow("a read-only folder: written in place")
@@ -110,6 +112,7 @@ void WordFile::writes()
     if (setup != "nofolder") QVERIFY(QDir().mkpath(folder));
     if (setup == "empty") QVERIFY(writeBytes(path, {}));
     if (setup == "dir") QVERIFY(QDir().mkpath(path + "/keep"));
+    if (setup == "fifo") QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
     if (!readNumber) QVERIFY(writeBytes(path, "old\r\n"));
     const auto r = vocabulary::readWordFile(path);
     QCOMPARE(r.failure ? r.failure->number : 0, readNumber);
