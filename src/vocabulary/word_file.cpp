@@ -132,7 +132,8 @@ ReadResult readWordFile(const QString& fileName)
     }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        r.failure = file.error() == QFileDevice::PermissionsError ? kPermission : kAccess;
+        // Qt reports a refused open as an open error; the file's permissions say why.
+        r.failure = info.isReadable() ? kAccess : kPermission;
         return r;
     }
     ItemReader reader(collector(r.words));

@@ -3,6 +3,7 @@
 // permissions stop nothing: the write runs in a child process without root's powers.
 // "full disk": a small tmpfs, mounted and filled where the test may mount one, else a file
 // size limit of 0 in the child. "read-only": no new file, but its files stay writable.
+// "unreadable": its files may not be read.
 #include <QDir>
 #include <QFile>
 #include <csignal>
@@ -20,7 +21,7 @@ class TrapFolder {
 public:
     TrapFolder(const QString& path, const QString& trap) : path_(path), trap_(trap)
     {
-        if (trap != "full disk" && trap != "read-only") return;
+        if (!trapped()) return;
         QDir().mkpath(path);
         mounted_ = trap == "full disk" && !mount("tmpfs", qPrintable(path), "tmpfs", 0, "size=64k");
         if (trap == "full disk") qInfo("full disk: %s", mounted_ ? "a tmpfs" : "a size limit");
@@ -33,12 +34,15 @@ public:
     // Runs `write` with the trap set, in a child if there is one; returns its result (0-255).
     int run(const std::function<int()>& write)
     {
-        if (trap_ != "full disk" && trap_ != "read-only") return write();
+        if (!trapped()) return write();
         QFile filler(path_ + "/filler");
         if (mounted_ && filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
             while (filler.write(QByteArray(4096, 'f')) > 0) continue;
         const auto permissions = QFile::permissions(path_);
         if (trap_ == "read-only") QFile::setPermissions(path_, QFile::ReadOwner | QFile::ExeOwner);
+        if (trap_ == "unreadable")
+            for (const QString& name : QDir(path_).entryList(QDir::Files))
+                QFile::setPermissions(path_ + '/' + name, QFile::WriteOwner);
         int status = -1;
         if (const pid_t child = fork(); child == 0) {
             __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
@@ -57,6 +61,10 @@ public:
     }
 
 private:
+    bool trapped() const
+    {
+        return trap_ == "full disk" || trap_ == "read-only" || trap_ == "unreadable";
+    }
     QString path_, trap_;
     bool mounted_ = false;
 };
