@@ -1,0 +1,191 @@
+// One session of the vocabulary editor in the real game, on the frostel.dat of the working
+// folder: "Edit vocabulary" until the editor has painted its list, one word added, one
+// deleted, Save; and the game's resident memory before and after the editor opened.
+// Prints: open add delete save (seconds) rss_before rss_open rss_end (MB). Run by
+// bench/editor.sh, which gives it an X server and the word files.
+#include "assets/options_window.h"
+#include "assets/pictures.h"
+#include "mainwindow/main_window.h"
+#include "vocabulary/editor/vocabulary_editor.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <cstdio>
+#include <functional>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+using vocabulary::editor::VocabularyEditor;
+
+namespace {
+
+double rssMb()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) return 0;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ')[0].toDouble() / 1024;
+    return 0;
+}
+
+// Calls `next` once the widget that `pick` finds has painted, after the paint has reached
+// the screen; `pick` is asked at every paint, so it may find a window that is not there yet.
+class AfterPaint : public QObject {
+public:
+    AfterPaint(std::function<bool(QObject*)> pick, std::function<void()> next)
+        : pick_(std::move(pick)), next_(std::move(next))
+    {
+        qApp->installEventFilter(this);
+        // No paint at all is a figure too, not a hang.
+        QTimer::singleShot(20000, this, [this] { fire(); });
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && !fired_ && pick_(watched))
+            QTimer::singleShot(0, this, [this] { fire(); });
+        return false;
+    }
+
+private:
+    void fire()
+    {
+        if (fired_) return;
+        fired_ = true;
+        qApp->removeEventFilter(this);
+        deleteLater();
+        next_();
+    }
+    std::function<bool(QObject*)> pick_;
+    std::function<void()> next_;
+    bool fired_ = false;
+};
+
+void afterPaintOf(QWidget* w, std::function<void()> next)
+{
+    new AfterPaint([w](QObject* o) { return o == w; }, std::move(next));
+}
+
+struct Figures {
+    double open = 0, add = 0, del = 0, save = 0;
+    double rssBefore = 0, rssOpen = 0, rssEnd = 0;
+};
+
+class Session {
+public:
+    explicit Session(mainwindow::MainWindow& window) : window_(window) {}
+
+    void run()
+    {
+        QTimer::singleShot(0, &window_, [this] { inOptions(); });
+        window_.opt_Click(); // returns once the options window has gone
+        std::printf("%.3f %.3f %.3f %.3f %.1f %.1f %.1f\n", f_.open, f_.add, f_.del, f_.save,
+                    f_.rssBefore, f_.rssOpen, f_.rssEnd);
+        std::fflush(stdout);
+        QCoreApplication::quit();
+    }
+
+private:
+    void inOptions()
+    {
+        options_ = window_.findChild<assets::OptionsWindow*>();
+        if (!options_ || !options_->isVisible()) {
+            QTimer::singleShot(50, &window_, [this] { inOptions(); });
+            return;
+        }
+        afterPaintOf(options_, [this] { QTimer::singleShot(300, &window_, [this] { open(); }); });
+        options_->update();
+    }
+
+    void open()
+    {
+        f_.rssBefore = rssMb();
+        new AfterPaint(
+            [this](QObject* o) {
+                auto* e =
+                    qobject_cast<VocabularyEditor*>(o->parent() ? o->parent()->parent() : nullptr);
+                return e && o == e->List1()->viewport();
+            },
+            [this] {
+                f_.open = seconds();
+                f_.rssOpen = rssMb();
+                editor_ = options_->findChild<VocabularyEditor*>();
+                add();
+            });
+        clock_.start();
+        options_->EditButt()->click(); // returns once the editor has gone
+        QTimer::singleShot(0, options_->OK(), &QPushButton::click);
+    }
+
+    void add()
+    {
+        // A word that files in the middle of the list.
+        editor_->Text1()->setText(QStringLiteral("Mittelwort"));
+        clock_.start();
+        editor_->Hinzuf()->click();
+        afterPaintOf(editor_->List1()->viewport(), [this] {
+            f_.add = seconds();
+            del();
+        });
+    }
+
+    void del()
+    {
+        QListView* list = editor_->List1();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(list->indexAt(QPoint(4, 4))).center());
+        clock_.start();
+        editor_->Loesch()->click();
+        afterPaintOf(list->viewport(), [this] {
+            f_.del = seconds();
+            save();
+        });
+    }
+
+    void save()
+    {
+        clock_.start();
+        editor_->Speichern()->click();
+        QTimer::singleShot(0, editor_, [this] {
+            f_.save = seconds();
+            f_.rssEnd = rssMb();
+            editor_->OK()->click(); // saved: no question
+        });
+    }
+
+    double seconds() const { return clock_.nsecsElapsed() / 1e9; }
+
+    mainwindow::MainWindow& window_;
+    assets::OptionsWindow* options_ = nullptr;
+    VocabularyEditor* editor_ = nullptr;
+    QElapsedTimer clock_;
+    Figures f_;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setStyle(new assets::LeanStyle);
+    mainwindow::MainWindow::Setup setup;
+    setup.profilePath = QStringLiteral("frostel.ini");
+    setup.splashMs = 0;
+    mainwindow::MainWindow window(setup);
+    window.Form_Load();
+#ifdef __GLIBC__
+    // As the game does once its window stands.
+    QTimer::singleShot(0, [] { malloc_trim(0); });
+#endif
+    Session session(window);
+    QTimer::singleShot(1000, &window, [&session] { session.run(); });
+    return app.exec();
+}
