@@ -4,6 +4,7 @@
 #include "vocabulary/word_file.h"
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 namespace vocabulary::editor {
@@ -17,6 +18,8 @@ QString passingKeys(QStringView typed);
 // The list's alphabetical order: letters by their base ("Ä" files with "A"), then plain
 // before accented, then small before capital. <0, 0 or >0; 0 only for equal words.
 int compareWords(QStringView a, QStringView b);
+// Puts the words in that order, each word's keys worked out once.
+void sortWords(QStringList& words);
 
 // What the word box selects when the focus enters it: from where the cursor stands to
 // the end of the text. Returns the selection's length.

@@ -76,8 +76,7 @@ void VocabularyEditor::ListeLaden()
     ReadResult r = readWordFile(g_.WortDatei);
     // Sorted first and put in as a block: one place search per word would cost a whole
     // shift of the list for each of them.
-    std::stable_sort(r.words.begin(), r.words.end(),
-                     [](const QString& a, const QString& b) { return compareWords(a, b) < 0; });
+    sortWords(r.words);
     List1()->setSortingEnabled(false);
     for (const QString& w : r.words) addEntry(w);
     List1()->setSortingEnabled(true);
