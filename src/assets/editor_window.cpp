@@ -24,7 +24,7 @@ void EditorWindow::Form_Load(const QString& wortDatei)
 }
 
 QLineEdit* EditorWindow::Text1() const { return ui_->Text1; }
-QListWidget* EditorWindow::List1() const { return ui_->List1; }
+QListView* EditorWindow::List1() const { return ui_->List1; }
 QPushButton* EditorWindow::Hinzuf() const { return ui_->Hinzuf; }
 QPushButton* EditorWindow::Loesch() const { return ui_->Loesch; }
 QPushButton* EditorWindow::Speichern() const { return ui_->Speichern; }

@@ -5,7 +5,7 @@
 #include <memory>
 
 class QLineEdit;
-class QListWidget;
+class QListView;
 namespace Ui {
 class WEdit;
 }
@@ -20,7 +20,7 @@ public:
     ~EditorWindow() override;
 
     QLineEdit* Text1() const;
-    QListWidget* List1() const;
+    QListView* List1() const;
     QPushButton* Hinzuf() const;
     QPushButton* Loesch() const;
     QPushButton* Speichern() const;

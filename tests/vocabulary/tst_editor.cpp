@@ -9,7 +9,7 @@
 #include <QDir>
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -132,7 +132,7 @@ void EditorTest::load()
     g_.WortDatei = wortDatei;
     g_.Geaendert = true;
     VocabularyEditor e(g_, mainList_, tk_);
-    e.List1()->addItem("from before");
+    qobject_cast<vocabulary::editor::SortedWords*>(e.List1()->model())->add("from before");
     e.Form_Activate();
     QCOMPARE(e.words(), list);
     QCOMPARE(tk_.boxes(), boxes);
@@ -171,10 +171,10 @@ void EditorTest::add()
 void EditorTest::clickAndDelete()
 {
     auto e = shownOn("eel\r\ndog\r\ncat\r\nbee\r\nant\r\n");
-    QListWidget* list = e->List1();
+    QListView* list = e->List1();
     auto click = [&](int row, Qt::KeyboardModifiers mod = {}) {
         QTest::mouseClick(list->viewport(), Qt::LeftButton, mod,
-                          list->visualItemRect(list->item(row)).center());
+                          list->visualRect(list->model()->index(row, 0)).center());
     };
     click(1);
     QCOMPARE(e->Text1()->text(), QString("bee"));
@@ -195,7 +195,7 @@ void EditorTest::clickAndDelete()
     e->Hinzuf()->click();
     QCOMPARE(e->words(), (QStringList{"ant", "cat", "eel"}));
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {},
-                       list->visualItemRect(list->item(1)).center());
+                       list->visualRect(list->model()->index(1, 0)).center());
     QCOMPARE(e->Text1()->text(), QString("cat"));
 }
 

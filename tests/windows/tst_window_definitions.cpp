@@ -71,7 +71,7 @@ const Control kControls[] = {
     {"Einst", "s_2", "QLabel", 2640, 0, 300, 300, -1, "", 8.25, kSpin},
 
     {"WEdit", "Text1", "QLineEdit", 240, 120, 1815, 285, 0, "", 8.25, "maxLength=20"},
-    {"WEdit", "List1", "QListWidget", 240, 600, 1815, 2370, 1, nullptr, 8.25, "frameShape=Box;frameShadow=Plain;sortingEnabled=true;selectionMode=ExtendedSelection;count=0"},
+    {"WEdit", "List1", "QListView", 240, 600, 1815, 2370, 1, nullptr, 8.25, "frameShape=Box;frameShadow=Plain;selectionMode=ExtendedSelection"},
     {"WEdit", "Hinzuf", "QPushButton", 2400, 120, 1335, 495, 2, "&Add", 8.25, ""},
     {"WEdit", "Loesch", "QPushButton", 2400, 720, 1335, 495, 3, "&Delete", 8.25, "enabled=false"},
     {"WEdit", "Speichern", "QPushButton", 2400, 1320, 1335, 495, 4, "&Save", 8.25, ""},

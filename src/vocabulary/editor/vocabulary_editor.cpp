@@ -9,24 +9,16 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace vocabulary::editor {
 
 namespace {
-
-// An entry that sorts the way a dictionary does, not by character codes.
-class WordItem : public QListWidgetItem {
-public:
-    explicit WordItem(const QString& word) : QListWidgetItem(word) {}
-    bool operator<(const QListWidgetItem& other) const override
-    {
-        return compareWords(text(), other.text()) < 0;
-    }
-};
 
 // Changes made by code are no clicks.
 class Quiet {
@@ -39,16 +31,35 @@ private:
     bool was_;
 };
 
+// The selected rows as blocks that neither touch nor overlap, top to bottom: a whole block
+// leaves the list in one step, not row by row.
+std::vector<std::pair<int, int>> blocksOf(const QItemSelection& selection)
+{
+    std::vector<std::pair<int, int>> ranges, blocks;
+    for (const QItemSelectionRange& range : selection)
+        ranges.emplace_back(range.top(), range.bottom());
+    std::sort(ranges.begin(), ranges.end());
+    for (const auto& [top, bottom] : ranges) {
+        if (!blocks.empty() && top <= blocks.back().second + 1)
+            blocks.back().second = std::max(blocks.back().second, bottom);
+        else blocks.emplace_back(top, bottom);
+    }
+    return blocks;
+}
+
 } // namespace
 
 VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core::Toolkit& toolkit,
                                    QWidget* parent)
-    : EditorWindow(g.WortDatei, parent), g_(g), mainList_(mainList), tk_(toolkit)
+    : EditorWindow(g.WortDatei, parent), g_(g), mainList_(mainList), tk_(toolkit),
+      words_(new SortedWords(this))
 {
     Text1()->installEventFilter(this);
-    connect(List1(), &QListWidget::itemSelectionChanged, this, &VocabularyEditor::List1_Click);
-    connect(List1(), &QListWidget::itemClicked, this, &VocabularyEditor::List1_Click);
-    connect(List1(), &QListWidget::itemDoubleClicked, this, &VocabularyEditor::List1_DblClick);
+    List1()->setModel(words_);
+    connect(List1()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &VocabularyEditor::List1_Click);
+    connect(List1(), &QListView::clicked, this, &VocabularyEditor::List1_Click);
+    connect(List1(), &QListView::doubleClicked, this, &VocabularyEditor::List1_DblClick);
     connect(Hinzuf(), &QPushButton::clicked, this, &VocabularyEditor::Hinzuf_Click);
     connect(Loesch(), &QPushButton::clicked, this, &VocabularyEditor::Loesch_Click);
     connect(Speichern(), &QPushButton::clicked, this, &VocabularyEditor::Speichern_Click);
@@ -56,30 +67,16 @@ VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core:
     connect(Abbruch(), &QPushButton::clicked, this, &VocabularyEditor::Abbruch_Click);
 }
 
-QStringList VocabularyEditor::words() const
-{
-    QStringList out;
-    out.reserve(List1()->count());
-    for (int i = 0; i < List1()->count(); ++i) out << List1()->item(i)->text();
-    return out;
-}
-
-void VocabularyEditor::addEntry(const QString& word) { List1()->addItem(new WordItem(word)); }
+QStringList VocabularyEditor::words() const { return words_->words(); }
 
 void VocabularyEditor::Form_Activate() { ListeLaden(); }
 
 void VocabularyEditor::ListeLaden()
 {
     const Quiet quiet(quiet_);
-    List1()->clear();
     if (g_.WortDatei.isEmpty()) g_.WortDatei = QStringLiteral("eisfig.dat");
     ReadResult r = readWordFile(g_.WortDatei);
-    // Sorted first and put in as a block: one place search per word would cost a whole
-    // shift of the list for each of them.
-    sortWords(r.words);
-    List1()->setSortingEnabled(false);
-    for (const QString& w : r.words) addEntry(w);
-    List1()->setSortingEnabled(true);
+    words_->setWords(std::move(r.words));
     if (r.failure)
         tk_.msgBox(loadFailureText(g_.WortDatei, *r.failure), core::kOkExclamation, errorTitle());
 }
@@ -87,22 +84,23 @@ void VocabularyEditor::ListeLaden()
 void VocabularyEditor::List1_Click()
 {
     if (quiet_) return;
-    const QListWidgetItem* item = List1()->currentItem();
-    if (!item) return;
-    Text1()->setText(item->text());
+    const QModelIndex current = List1()->currentIndex();
+    if (!current.isValid()) return;
+    Text1()->setText(current.data().toString());
     Loesch()->setEnabled(true);
 }
 
 void VocabularyEditor::List1_DblClick()
 {
-    if (const QListWidgetItem* item = List1()->currentItem()) Text1()->setText(item->text());
+    const QModelIndex current = List1()->currentIndex();
+    if (current.isValid()) Text1()->setText(current.data().toString());
 }
 
 void VocabularyEditor::Hinzuf_Click()
 {
     if (!Text1()->text().isEmpty()) {
         const Quiet quiet(quiet_);
-        addEntry(Text1()->text());
+        words_->add(Text1()->text());
         Text1()->clear();
     }
     // Also for an empty box: the flag only has to be up whenever the list may differ.
@@ -113,8 +111,10 @@ void VocabularyEditor::Loesch_Click()
 {
     {
         const Quiet quiet(quiet_);
-        for (int i = List1()->count() - 1; i >= 0; --i)
-            if (List1()->item(i)->isSelected()) delete List1()->takeItem(i);
+        // From the last block up, so the rows above keep their numbers.
+        const auto blocks = blocksOf(List1()->selectionModel()->selection());
+        for (auto block = blocks.rbegin(); block != blocks.rend(); ++block)
+            words_->removeRows(block->first, block->second - block->first + 1);
     }
     Loesch()->setEnabled(false);
     g_.Geaendert = true;

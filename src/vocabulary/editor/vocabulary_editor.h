@@ -3,6 +3,7 @@
 // for a new word, and the buttons that add, delete, save and hand the list to the game.
 #include "assets/editor_window.h"
 #include "core/game.h"
+#include "vocabulary/editor/sorted_words.h"
 
 namespace vocabulary::editor {
 
@@ -37,11 +38,11 @@ protected:
 private:
     void List1_Click();
     void List1_DblClick();
-    void addEntry(const QString& word);
 
     core::Global& g_;
     QStringList& mainList_;
     core::Toolkit& tk_;
+    SortedWords* words_; // what List1 shows
     bool quiet_ = false; // the list changes by code: no click handlers
 };
 
