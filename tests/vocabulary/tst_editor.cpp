@@ -149,6 +149,8 @@ void EditorTest::add_data()
     QTest::newRow("the same word twice") << "cat" << QStringList{"cat", "cat", "mouse"};
     QTest::newRow("case as typed") << "CAT" << QStringList{"cat", "CAT", "mouse"};
     QTest::newRow("umlaut by its base letter") << "Maus" << QStringList{"cat", "Maus", "mouse"};
+    QTest::newRow("a long word") << "Donaudampfschiffahrt"
+                                 << QStringList{"cat", "Donaudampfschiffahrt", "mouse"};
     QTest::newRow("empty box adds nothing") << "" << QStringList{"cat", "mouse"};
 }
 
@@ -161,6 +163,9 @@ void EditorTest::add()
     type(e->Text1(), typed);
     QTest::keyClick(e->Text1(), Qt::Key_Return); // the default button
     QCOMPARE(e->words(), list);
+    for (int row = 0; row < list.size(); ++row) // every word has room for all its letters
+        QVERIFY(e->List1()->visualRect(e->List1()->model()->index(row, 0)).width() >=
+                e->List1()->fontMetrics().horizontalAdvance(list[row]));
     QCOMPARE(e->Text1()->text(), QString());
     QCOMPARE(QApplication::focusWidget(), e->Text1()); // ready for the next word
     QVERIFY(g_.Geaendert);                             // also for an empty box, so OK will ask

@@ -52,10 +52,11 @@ std::vector<std::pair<int, int>> blocksOf(const QItemSelection& selection)
 VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core::Toolkit& toolkit,
                                    QWidget* parent)
     : EditorWindow(g.WortDatei, parent), g_(g), mainList_(mainList), tk_(toolkit),
-      words_(new SortedWords(this))
+      words_(new SortedWords(this)), rows_(new WordRows(this))
 {
     Text1()->installEventFilter(this);
     List1()->setModel(words_);
+    List1()->setItemDelegate(rows_);
     connect(List1()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &VocabularyEditor::List1_Click);
     connect(List1(), &QListView::clicked, this, &VocabularyEditor::List1_Click);
@@ -77,6 +78,7 @@ void VocabularyEditor::ListeLaden()
     if (g_.WortDatei.isEmpty()) g_.WortDatei = QStringLiteral("eisfig.dat");
     ReadResult r = readWordFile(g_.WortDatei);
     words_->setWords(std::move(r.words));
+    rows_->measure(words_->words(), List1()->font());
     if (r.failure)
         tk_.msgBox(loadFailureText(g_.WortDatei, *r.failure), core::kOkExclamation, errorTitle());
 }
@@ -100,6 +102,7 @@ void VocabularyEditor::Hinzuf_Click()
 {
     if (!Text1()->text().isEmpty()) {
         const Quiet quiet(quiet_);
+        rows_->measure(Text1()->text(), List1()->font());
         words_->add(Text1()->text());
         Text1()->clear();
     }
@@ -115,6 +118,7 @@ void VocabularyEditor::Loesch_Click()
         const auto blocks = blocksOf(List1()->selectionModel()->selection());
         for (auto block = blocks.rbegin(); block != blocks.rend(); ++block)
             words_->removeRows(block->first, block->second - block->first + 1);
+        rows_->measure(words_->words(), List1()->font());
     }
     Loesch()->setEnabled(false);
     g_.Geaendert = true;

@@ -4,6 +4,7 @@
 #include "assets/editor_window.h"
 #include "core/game.h"
 #include "vocabulary/editor/sorted_words.h"
+#include "vocabulary/editor/word_rows.h"
 
 namespace vocabulary::editor {
 
@@ -43,6 +44,7 @@ private:
     QStringList& mainList_;
     core::Toolkit& tk_;
     SortedWords* words_; // what List1 shows
+    WordRows* rows_;     // and how wide its rows are
     bool quiet_ = false; // the list changes by code: no click handlers
 };
 
