@@ -187,8 +187,6 @@ private slots:
     void controls();
     void tabOrder_data();
     void tabOrder();
-    void pixels_data();
-    void pixels();
     void defaultAndCancelButtons_data();
     void defaultAndCancelButtons();
     void twipsToPixels_data();
@@ -354,42 +352,6 @@ void WindowDefinitions::tabOrder()
         walked << QApplication::focusWidget()->objectName();
     }
     QCOMPARE(walked, expected);
-}
-
-void WindowDefinitions::pixels_data()
-{
-    QTest::addColumn<QString>("window");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QPoint>("at"); // negative: from the right or bottom edge
-    QTest::addColumn<QColor>("colour");
-
-    auto row = [](const char* window, const char* name, QPoint at, QRgb colour) {
-        QTest::addRow("%s %s", window, name)
-            << QString(window) << QString(name) << at << QColor(colour);
-    };
-    row("Einst", "", QPoint(1, 1), 0xc0c0c0); // the window's ground
-    row("Einst", "Spieler_Name_3", QPoint(-6, 9), 0xffffff);
-    row("Einst", "Zahl_0", QPoint(3, -4), 0xffffff);
-    row("Einst", "wortsch", QPoint(-10, -10), 0xffffff);
-    row("WEdit", "Text1", QPoint(-1, -1), 0); // flat black borders
-    row("WEdit", "List1", QPoint(0, 0), 0);
-    row("Info", "Label_0", QPoint(1, 1), 0xffffff);
-}
-
-void WindowDefinitions::pixels()
-{
-    QFETCH(QString, window);
-    QFETCH(QString, name);
-    QFETCH(QPoint, at);
-    QFETCH(QColor, colour);
-
-    auto w = makeWindow(window);
-    showAndActivate(w.get());
-    QWidget* c = name.isEmpty() ? w.get() : w->findChild<QWidget*>(name);
-    const QImage image = c->grab().toImage();
-    const QPoint p(at.x() < 0 ? image.width() + at.x() : at.x(),
-                   at.y() < 0 ? image.height() + at.y() : at.y());
-    QCOMPARE(image.pixelColor(p), colour);
 }
 
 void WindowDefinitions::defaultAndCancelButtons_data()
