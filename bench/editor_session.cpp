@@ -109,10 +109,10 @@ private:
     {
         f_.rssBefore = rssMb();
         new AfterPaint(
-            [this](QObject* o) {
-                auto* e =
-                    qobject_cast<VocabularyEditor*>(o->parent() ? o->parent()->parent() : nullptr);
-                return e && o == e->List1()->viewport();
+            [](QObject* o) {
+                const auto* list = qobject_cast<QListView*>(o->parent());
+                return list && o == list->viewport() &&
+                       qobject_cast<VocabularyEditor*>(list->window());
             },
             [this] {
                 f_.open = seconds();
