@@ -13,16 +13,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QTimer>
-#include <QWindow>
 #include <cmath>
 
 namespace mainwindow {
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
-constexpr int kDesignWidth = 9600, kDesignHeight = 6975; // outer size of the design
 constexpr int kPicture1Width = 9000;
 
 int px(double twips) { return int(std::lround(twips / kTwipsPerPixel)); }
@@ -45,7 +42,7 @@ MainWindow::MainWindow(Setup setup)
     pal.setColor(QPalette::Window, QColor(0, 0, 128));
     ui_->client->setPalette(pal);
     ui_->client->setAutoFillBackground(true);
-    setMinimumSize(px(kDesignWidth), px(kDesignHeight));
+    setMinimumSize(kDesignOuter.width(), kDesignOuter.height());
 
     for (int i = 0; i < core::kTiles; ++i) {
         alpha_[i] = findChild<QLabel*>(QStringLiteral("alpha_%1").arg(i));
@@ -146,41 +143,6 @@ void MainWindow::Form_Load()
     sync();
 }
 
-void MainWindow::restorePlace()
-{
-    const int16_t status = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
-    if (status == 2) setWindowState(Qt::WindowMaximized);
-    else if (status == 1) setWindowState(Qt::WindowMinimized);
-    const bool maximized = windowState() & Qt::WindowMaximized;
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const long long screenW = tw(screen.width()), screenH = tw(screen.height());
-    long long centreLeft = 0, centreTop = 0;
-    long long left = tw(x()), top = tw(y());
-    if (!maximized) {
-        centreLeft = core::idiv(double(screenW - kDesignWidth), 2);
-        centreTop = core::idiv(double(screenH - kDesignHeight), 2);
-        left = profile_.GetPrivateProfileInt(kWindow, "Left", int(centreLeft));
-        top = profile_.GetPrivateProfileInt(kWindow, "Top", int(centreTop));
-        const int width = profile_.GetPrivateProfileInt(kWindow, "Width", 9600);
-        const int height = profile_.GetPrivateProfileInt(kWindow, "Height", 6900);
-        setOuterSize(width, height);
-    }
-    // Off the screen, by the size the window has now: back to the centre.
-    const long long w = tw(frameGeometry().width()), h = tw(frameGeometry().height());
-    if (left < 0 || left > screenW - w) left = centreLeft;
-    if (top < 0 || top > screenH - h) top = centreTop;
-    if (!maximized) move(px(double(left)), px(double(top)));
-}
-
-void MainWindow::setOuterSize(int widthTwips, int heightTwips)
-{
-    // Sizes from a hand-edited file stay within what a screen can hold.
-    outerWanted_ = QSize(qBound(1, px(widthTwips), 16384), qBound(1, px(heightTwips), 16384));
-    const QSize frame = frameGeometry().size() - geometry().size();
-    lastFrame_ = frame;
-    resize((outerWanted_ - frame).expandedTo(minimumSize()));
-}
-
 void MainWindow::presetOptions()
 {
     core::Global& g = game_.g;
@@ -223,19 +185,7 @@ void MainWindow::Form_Unload()
 {
     if (unloaded_) return;
     unloaded_ = true;
-    const bool maximized = windowState() & Qt::WindowMaximized;
-    const bool minimized = windowState() & Qt::WindowMinimized;
-    if (maximized) {
-        profile_.WritePrivateProfileString(kWindow, "Status", settings::numberForm(2));
-    } else {
-        const QRect r = frameGeometry();
-        profile_.WritePrivateProfileString(kWindow, "Left", settings::numberForm(tw(r.x())));
-        profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
-        profile_.WritePrivateProfileString(kWindow, "Width", settings::numberForm(tw(r.width())));
-        profile_.WritePrivateProfileString(kWindow, "Height", settings::numberForm(tw(r.height())));
-        profile_.WritePrivateProfileString(kWindow, "Status",
-                                           settings::numberForm(minimized ? 1 : 0));
-    }
+    storePlace();
     // Ends every wait at once; the game's routines stop where they stand.
     game_.programEnded();
     tk_.stopWaiting();
@@ -326,36 +276,9 @@ void MainWindow::resizeEvent(QResizeEvent* event)
     Anordnen();
 }
 
-void MainWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    // No event tells of the frame a window manager puts around the window; by the time the
-    // window is activated it is there.
-    if (event->type() == QEvent::ActivationChange) fitFrame();
-    if (event->type() == QEvent::WindowStateChange && !(windowState() & Qt::WindowMinimized))
-        Anordnen();
-}
-
 void MainWindow::moveTwips(QWidget* w, long long left, long long top)
 {
     w->move(px(double(left)), px(double(top)));
-}
-
-void MainWindow::fitFrame()
-{
-    // Sizes count the frame, which the window manager adds only once the window shows.
-    const QSize frame = frameGeometry().size() - geometry().size();
-    setMinimumSize(px(kDesignWidth) - frame.width(), px(kDesignHeight) - frame.height());
-    if (frame == lastFrame_) return;
-    lastFrame_ = frame;
-    if (outerWanted_.isValid() && windowState() == Qt::WindowNoState)
-        resize((outerWanted_ - frame).expandedTo(minimumSize()));
-}
-
-void MainWindow::moveEvent(QMoveEvent* event)
-{
-    QMainWindow::moveEvent(event);
-    fitFrame();
 }
 
 void MainWindow::Anordnen()

@@ -1,5 +1,5 @@
-// The real main window, offscreen: start-up from the settings file, shutdown, the place of
-// its controls, and commands in each phase of a game.
+// The real main window, offscreen and under a window manager: start-up from the settings
+// file, its place and state, shutdown, the place of its controls, and commands in each phase.
 #include "assets/options_window.h"
 #include "assets/pictures.h"
 #include "mainwindow/main_window.h"
@@ -26,12 +26,27 @@ using mainwindow::MainWindow;
 namespace {
 
 long long tw(int px) { return px * 15LL; }
+int px(long long twips) { return int(std::lround(twips / 15.0)); }
 
-// Answers the next modal box with the given button once it shows.
+// Where a window of that outer size stands centred: the differences in twips, halved.
+QPoint centred(QSize outer)
+{
+    const QSize s = QGuiApplication::primaryScreen()->geometry().size();
+    return {px((tw(s.width()) - tw(outer.width())) / 2),
+            px((tw(s.height()) - tw(outer.height())) / 2)};
+}
+
+// Once the window manager has put its frame around the window (offscreen: at once).
+bool framed(QWidget* w)
+{
+    return QTest::qWaitFor([w] { return w->frameGeometry() != w->geometry(); });
+}
+
+// Answers the next modal box with the given button once it shows; notes title and text.
 void answerNextBox(QMessageBox::StandardButton button, QStringList* texts = nullptr)
 {
     support::onNextModal<QMessageBox>([=](QMessageBox* box) {
-        if (texts) texts->append(box->text());
+        if (texts) texts->append(support::shownTitle(box) + ": " + box->text());
         box->button(button)->click();
     });
 }
@@ -50,7 +65,8 @@ private slots:
     void cleanup();
     void firstStartWithNoFile();
     void restartRestoresWhatWasStored();
-    void maximisedLeavesPlaceKeysAlone();
+    void storedStateComesBack_data();
+    void storedStateComesBack();
     void screenBounds_data();
     void screenBounds();
     void namesAndOptionsFromTheFile();
@@ -97,7 +113,7 @@ std::unique_ptr<MainWindow> MainWindowTest::startWindow(const QByteArray& ini)
     }
     MainWindow::Setup setup;
     setup.profilePath = ini_;
-    setup.splashMs = 0;
+    setup.splashMs = 1; // a splash all the same: it is the main window's first owned window
     setup.exitProgram = [this](int) { ++exits_; };
     auto w = std::make_unique<MainWindow>(setup);
     w->toolkit().waitScale = 0.01;
@@ -108,14 +124,11 @@ std::unique_ptr<MainWindow> MainWindowTest::startWindow(const QByteArray& ini)
 void MainWindowTest::firstStartWithNoFile()
 {
     auto w = startWindow();
-    QVERIFY(w->isVisible());
-    QCOMPARE(w->windowTitle(), QString("Frostel32 v2.31"));
-    const QRect outer = w->frameGeometry();
-    QCOMPARE(tw(outer.width()), 9600LL);
-    QCOMPARE(tw(outer.height()), 6975LL); // the stored default 6900 is below the minimum
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    QCOMPARE(outer.x(), int(std::lround((tw(screen.width()) - 9600) / 2 / 15.0)));
-    QCOMPARE(outer.y(), int(std::lround((tw(screen.height()) - 6975) / 2 / 15.0)));
+    // Centred by its outer size, 9600 x 6975 twips: the stored height 6900 is below the minimum.
+    const QSize outer(640, 465);
+    QVERIFY(framed(w.get()));
+    QTRY_COMPARE(w->frameGeometry(), QRect(centred(outer), outer));
+    QCOMPARE(support::shownTitle(w.get()), QString("Frostel32 v2.31"));
     const core::Game& g = w->game();
     QCOMPARE(g.g.AnzSpieler, int16_t(4));
     QCOMPARE(g.g.AnzTips, int16_t(3));
@@ -145,32 +158,69 @@ void MainWindowTest::firstStartWithNoFile()
 
 void MainWindowTest::restartRestoresWhatWasStored()
 {
+    const QRect moved(50, 40, 700, 495);
     {
         auto w = startWindow();
-        w->move(50, 40);
-        w->resize(w->width() + 60, w->height() + 30);
-        QTest::qWait(20);
+        QVERIFY(framed(w.get()));
+        QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
+        w->move(moved.topLeft());
+        w->resize(w->size() + QSize(60, 30));
+        QTRY_COMPARE(w->frameGeometry(), moved);
         w->close();
         QCOMPARE(exits_, 1);
     }
+    // The place of the frame, which options never come with.
     const QByteArray ini = support::readAll(ini_);
-    QVERIFY(ini.startsWith("[Window]\r\nLeft= 750\r\nTop= 600\r\n"));
-    QVERIFY(ini.contains("\r\nStatus= 0\r\n"));
-    QVERIFY(!ini.contains("Einstellungen")); // options are written by the options window only
-    auto w = startWindow();
-    QCOMPARE(w->frameGeometry().topLeft(), QPoint(50, 40));
-    QCOMPARE(tw(w->frameGeometry().width()), 9600LL + 900);
-    QCOMPARE(tw(w->frameGeometry().height()), 6975LL + 450);
+    QCOMPARE(ini, "[Window]\r\nLeft= 750\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7425\r\n"
+                  "Status= 0\r\n");
+    // Every start comes up there again, and leaves the file as it was.
+    for (int start = 0; start < 2; ++start) {
+        auto w = startWindow();
+        QVERIFY(framed(w.get()));
+        QTRY_COMPARE(w->frameGeometry(), moved);
+        w->close();
+        QCOMPARE(support::readAll(ini_), ini);
+    }
 }
 
-void MainWindowTest::maximisedLeavesPlaceKeysAlone()
+void MainWindowTest::storedStateComesBack_data()
 {
-    const QByteArray before =
-        "[Window]\r\nLeft= 3000\r\nTop= 45\r\nWidth= 12000\r\nHeight= 8000\r\nStatus= 2\r\n";
-    auto w = startWindow(before);
-    QVERIFY(w->windowState() & Qt::WindowMaximized);
+    QTest::addColumn<QByteArray>("ini");
+    QTest::addColumn<int>("state");      // as the window comes up
+    QTest::addColumn<bool>("minimise");  // by the player before the end
+    QTest::addColumn<QByteArray>("end"); // null: the file as it was
+    const QByteArray place =
+        "[Window]\r\nLeft= 900\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7500\r\n";
+    QTest::newRow("maximised: the place keys stay")
+        << place + "Status= 2\r\n"
+        << int(Qt::WindowMaximized) << false << QByteArray();
+    QTest::newRow("minimised, in its place") << place + "Status= 1\r\n"
+                                             << int(Qt::WindowMinimized) << false << QByteArray();
+    QTest::newRow("minimised from maximised: state 1 and the place")
+        << place + "Status= 2\r\n"
+        << int(Qt::WindowMaximized) << true
+        << QByteArray("[Window]\r\nLeft=%1\r\nTop=%2\r\nWidth=%3\r\nHeight=%4\r\nStatus= 1\r\n");
+}
+
+void MainWindowTest::storedStateComesBack()
+{
+    QFETCH(QByteArray, ini);
+    QFETCH(int, state);
+    QFETCH(bool, minimise);
+    QFETCH(QByteArray, end);
+    auto w = startWindow(ini);
+    QVERIFY(framed(w.get())); // then it stands in the stored state
+    QCOMPARE(int(w->windowState()), state);
+    if (minimise) w->showMinimized();
+    QTRY_COMPARE(bool(w->windowState() & Qt::WindowMinimized),
+                 minimise || state == Qt::WindowMinimized);
+    const QRect r = w->frameGeometry();
     w->close();
-    QCOMPARE(support::readAll(ini_), before); // only Status written, with the same value
+    auto n = [](int px) { return settings::numberForm(double(tw(px))); };
+    QCOMPARE(support::readAll(ini_),
+             end.isNull()
+                 ? ini
+                 : QString(end).arg(n(r.x()), n(r.y()), n(r.width()), n(r.height())).toLatin1());
 }
 
 void MainWindowTest::screenBounds_data()
@@ -196,11 +246,10 @@ void MainWindowTest::screenBounds()
     QFETCH(bool, topKept);
     auto w = startWindow(
         QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
-    const QRect s = QGuiApplication::primaryScreen()->geometry();
-    const int centreLeft = int(std::lround(((tw(s.width()) - 9600) / 2) / 15.0));
-    const int centreTop = int(std::lround(((tw(s.height()) - 6975) / 2) / 15.0));
-    QCOMPARE(w->frameGeometry().x(), leftKept ? int(std::lround(left / 15.0)) : centreLeft);
-    QCOMPARE(w->frameGeometry().y(), topKept ? int(std::lround(top / 15.0)) : centreTop);
+    const QPoint centre = centred({640, 465});
+    QVERIFY(framed(w.get()));
+    QTRY_COMPARE(w->frameGeometry().topLeft(),
+                 QPoint(leftKept ? px(left) : centre.x(), topKept ? px(top) : centre.y()));
 }
 
 void MainWindowTest::namesAndOptionsFromTheFile()
@@ -270,7 +319,7 @@ void MainWindowTest::missingWordFileSaysSoOverTheWindow()
     });
     answerNextBox(QMessageBox::Ok, &texts);
     auto w = startWindow();
-    QCOMPARE(texts, QStringList{"File frostel.dat not found!"});
+    QCOMPARE(texts, QStringList{"Error: File frostel.dat not found!"});
     QVERIFY(w->isVisible());
     w->findChild<QAction*>("start")->trigger();
     QVERIFY(w->game().g.Wort.isEmpty());
@@ -329,7 +378,7 @@ void MainWindowTest::commandsInEachPhase()
     QStringList texts;
     answerNextBox(QMessageBox::No, &texts);
     ende->trigger();
-    QCOMPARE(texts, QStringList{"Really end the game?"});
+    QCOMPARE(texts, QStringList{"Program end: Really end the game?"});
     QCOMPARE(exits_, 0);
     // Word under way, by the traffic light.
     QTest::mouseClick(static_cast<QAbstractButton*>(w->picBut(0)), Qt::LeftButton);
@@ -344,7 +393,7 @@ void MainWindowTest::commandsInEachPhase()
     // A second start asks; No leaves the word.
     answerNextBox(QMessageBox::No, &texts);
     start->trigger();
-    QCOMPARE(texts.last(), QString("Really start a new game?"));
+    QCOMPARE(texts.last(), QString("Start: Really start a new game?"));
     QCOMPARE(g.g.Wort, QString("APPLE"));
     // Solving holds the wait: weiter and its button come up; Enter ends it.
     bool heldSeen = false;
