@@ -9,6 +9,10 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVariant>
+#ifdef FROSTEL_XCB
+#include <QtGui/qguiapplication_platform.h>
+#include <xcb/xcb.h>
+#endif
 
 namespace assets {
 
@@ -39,6 +43,27 @@ void centreOnScreen(QWidget* window)
     const QSize windowPx = window->frameGeometry().size();
     const QPoint twips = centredTwips(screenPx * kTwipsPerPixel, windowPx * kTwipsPerPixel);
     window->move(twipsToPixels(twips.x()), twipsToPixels(twips.y()));
+}
+
+void keepEmptyTitle(QWidget* window)
+{
+#ifdef FROSTEL_XCB
+    auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t* c = x11 ? x11->connection() : nullptr;
+    if (!c || !window->windowTitle().isEmpty()) return;
+    auto atom = [c](const QByteArray& name) {
+        xcb_intern_atom_reply_t* r =
+            xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, uint16_t(name.size()), name), nullptr);
+        const xcb_atom_t a = r ? r->atom : xcb_atom_t(XCB_ATOM_NONE);
+        free(r);
+        return a;
+    };
+    xcb_change_property(c, XCB_PROP_MODE_REPLACE, xcb_window_t(window->winId()),
+                        atom("_NET_WM_NAME"), atom("UTF8_STRING"), 8, 0, nullptr);
+    xcb_flush(c);
+#else
+    Q_UNUSED(window);
+#endif
 }
 
 DesignDialog::DesignDialog(QWidget* parent, Qt::WindowFlags flags) : QDialog(parent, flags) {}

@@ -19,6 +19,9 @@ void applyPointSizes(QWidget* widget);
 QPoint centredTwips(QSize screenTwips, QSize windowTwips);
 // Moves the window to the middle of the primary screen by one move.
 void centreOnScreen(QWidget* window);
+// Qt on X11 shows the program's name where a window has no title. Writes the empty title to
+// the window itself; call it once the window is made, before it maps (from its show event).
+void keepEmptyTitle(QWidget* window);
 
 class DesignDialog : public QDialog {
     Q_OBJECT
