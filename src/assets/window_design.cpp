@@ -3,7 +3,7 @@
 #include "assets/pictures.h"
 #include "assets/twips.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -35,14 +35,40 @@ QPoint centredTwips(QSize screenTwips, QSize windowTwips)
                   (screenTwips.height() - windowTwips.height()) / 2);
 }
 
+QMargins frameOf(const QWidget* window)
+{
+    auto frameless = [](const QWidget* w) { return w->windowFlags() & Qt::FramelessWindowHint; };
+    auto margins = [](const QWidget* w) {
+        const QRect f = w->frameGeometry(), c = w->geometry();
+        return QMargins(c.left() - f.left(), c.top() - f.top(), f.right() - c.right(),
+                        f.bottom() - c.bottom());
+    };
+    if (frameless(window)) return {};
+    if (const QMargins own = margins(window); !own.isNull()) return own;
+    for (const QWidget* other : QApplication::topLevelWidgets())
+        if (other->isVisible() && !frameless(other) && !margins(other).isNull())
+            return margins(other);
+    return {};
+}
+
 void centreOnScreen(QWidget* window)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return;
     const QSize screenPx = screen->geometry().size();
-    const QSize windowPx = window->frameGeometry().size();
-    const QPoint twips = centredTwips(screenPx * kTwipsPerPixel, windowPx * kTwipsPerPixel);
+    const QMargins frame = frameOf(window);
+    const QSize outerPx = window->size().grownBy(frame);
+    const QPoint twips = centredTwips(screenPx * kTwipsPerPixel, outerPx * kTwipsPerPixel);
+    // A move places the frame's corner.
     window->move(twipsToPixels(twips.x()), twipsToPixels(twips.y()));
+}
+
+void centreOnOwner(QWidget* window, const QWidget* owner)
+{
+    const QRect area = owner->frameGeometry();
+    const QSize outer = window->size().grownBy(frameOf(window));
+    window->move(area.topLeft() +
+                 QPoint((area.width() - outer.width()) / 2, (area.height() - outer.height()) / 2));
 }
 
 void keepEmptyTitle(QWidget* window)

@@ -3,6 +3,7 @@
 // cannot hold (twips, fractional point sizes, the cancel button), the program icon, and
 // centring on the screen in twips.
 #include <QDialog>
+#include <QMargins>
 #include <QPoint>
 #include <QSize>
 
@@ -17,8 +18,13 @@ void applyPointSizes(QWidget* widget);
 // Left and top, in twips, that centre a window on a screen: each difference halved and
 // cut towards zero, so a window larger than the screen gets negative values.
 QPoint centredTwips(QSize screenTwips, QSize windowTwips);
-// Moves the window to the middle of the primary screen by one move.
+// The frame the window manager puts around the window: its own once it has shown, before that
+// that of another window of the program, which it frames alike; none for a frameless window.
+QMargins frameOf(const QWidget* window);
+// Moves the window, frame and all, to the middle of the primary screen by one move.
 void centreOnScreen(QWidget* window);
+// Moves the window, frame and all, to the middle of its owner.
+void centreOnOwner(QWidget* window, const QWidget* owner);
 // Qt on X11 shows the program's name where a window has no title. Writes the empty title to
 // the window itself; call it once the window is made, before it maps (from its show event).
 void keepEmptyTitle(QWidget* window);

@@ -148,10 +148,9 @@ void MainWindow::presetOptions()
     core::Global& g = game_.g;
     g.AnzSpieler = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzahl", 4));
     g.AnzTips = int16_t(profile_.GetPrivateProfileInt(kSettings, "Tips", 3));
-    // What the options window reads when it loads: the vocabulary.
-    const QString stored =
-        profile_.GetPrivateProfileString(kSettings, "Datei", QString(255, ' '), 255);
-    g.WortDatei = settings::chooseWordFile(stored, settings::wordFileRows());
+    // The options window loads here, after the counts and before the motif; its controls are
+    // made at its first showing, from what it loaded now.
+    options_->load();
     g.MotivNr = int16_t(profile_.GetPrivateProfileInt(kSettings, "Motiv", 1));
     const bool all = int16_t(profile_.GetPrivateProfileInt(kSettings, "Wiederholung", 1)) == -1;
     game_.einst.wiederh = {all, !all};

@@ -7,14 +7,18 @@ set -u
 for tool in openbox xprop; do
     command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
 done
-openbox --sm-disable >/dev/null 2>&1 & wpid=$!
-trap 'kill $wpid 2>/dev/null; wait $wpid 2>/dev/null' EXIT
-# Up once it has named itself on the root window.
-for _ in $(seq 100); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-    kill -0 $wpid 2>/dev/null || { echo "openbox did not start"; exit 1; }
-    sleep 0.05
+wpid=""
+trap '[ -n "$wpid" ] && kill $wpid 2>/dev/null; wait 2>/dev/null' EXIT
+# Up once it has named itself on the root window; now and then it cannot open the display at
+# the first try.
+for _ in 1 2 3; do
+    openbox --sm-disable >/dev/null 2>&1 & wpid=$!
+    for _ in $(seq 100); do
+        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break 3
+        kill -0 $wpid 2>/dev/null || break
+        sleep 0.05
+    done
+    kill $wpid 2>/dev/null; wait $wpid 2>/dev/null; wpid=""
 done
-xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' ||
-    { echo "openbox did not come up"; exit 1; }
+[ -n "$wpid" ] || { echo "openbox did not come up"; exit 1; }
 "$@"

@@ -1,5 +1,6 @@
 // The real main window, offscreen and under a window manager: start-up from the settings
 // file, its place and state, shutdown, the place of its controls, and commands in each phase.
+#include "assets/editor_window.h"
 #include "assets/options_window.h"
 #include "assets/pictures.h"
 #include "mainwindow/main_window.h"
@@ -16,6 +17,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -303,11 +305,6 @@ void MainWindowTest::missingWordFileSaysSoOverTheWindow()
     QFile::remove("frostel.dat");
     QFile::remove("zoo.dat");
     QStringList texts;
-    bool visibleWhenAsked = false;
-    QTimer::singleShot(0, [&] {
-        auto* main = qobject_cast<MainWindow*>(QApplication::topLevelWidgets().value(0));
-        visibleWhenAsked = main && main->isVisible();
-    });
     answerNextBox(QMessageBox::Ok, &texts);
     auto w = startWindow();
     QCOMPARE(texts, QStringList{"Error: File frostel.dat not found!"});
@@ -315,6 +312,10 @@ void MainWindowTest::missingWordFileSaysSoOverTheWindow()
     w->findChild<QAction*>("start")->trigger();
     QVERIFY(w->game().g.Wort.isEmpty());
     for (int i = 0; i < 26; ++i) QVERIFY(!w->game().board.alpha[i].Enabled);
+    // The name the word list fell back to is the one the options store.
+    support::onNextModal<assets::OptionsWindow>([](assets::OptionsWindow* o) { o->OK()->click(); });
+    w->findChild<QAction*>("opt")->trigger();
+    QVERIFY2(support::readAll(ini_).contains("Datei=frostel.dat\r\n"), support::readAll(ini_));
 }
 
 void MainWindowTest::minimumSizeAndLayout()
@@ -465,21 +466,48 @@ void MainWindowTest::optionsChangeEndsTheWaitWithANewWord()
 void MainWindowTest::theRealOptionsWindow()
 {
     auto w = startWindow("[Einstellungen]\r\nSound= 0\r\nMotiv= 1\r\n");
+    QVERIFY(support::writeBytes("late.dat", "owl\r\n")); // the list is the folder at the start
     core::Game& g = w->game();
     w->findChild<QAction*>("start")->trigger();
     QTest::keyClick(w.get(), Qt::Key_Z);
-    // From the menu: the options window, where a double click on "Apple tree" closes it.
-    QString vocabulary;
+    // From the menu: the options window, centred, and the editor over it. A double click on
+    // "Apple tree" closes the options.
+    QString vocabulary, title;
+    QStringList rows;
+    QRect outer, editor;
+    auto framed = [](QWidget* w) {
+        return QTest::qWaitFor([w] { return w->frameGeometry() != w->geometry(); })
+                   ? w->frameGeometry()
+                   : QRect();
+    };
     support::onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
+        for (int i = 0; i < options->wortsch()->count(); ++i)
+            rows << options->wortsch()->item(i)->text();
         vocabulary =
             options->wortsch()->currentItem() ? options->wortsch()->currentItem()->text() : "";
+        title = support::shownTitle(options);
+        outer = framed(options);
+        support::onNextModal<assets::EditorWindow>([&](assets::EditorWindow* e) {
+            editor = framed(e);
+            e->Abbruch()->click();
+        });
+        options->EditButt()->click();
         QListWidget* motif = options->Motiv();
         const QPoint at = motif->visualItemRect(motif->item(0)).center();
         QTest::mouseClick(motif->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(motif->viewport(), Qt::LeftButton, {}, at);
     });
     w->findChild<QAction*>("opt")->trigger();
+    QCOMPARE(rows, QStringList({"frostel.dat", "zoo.dat"}));
     QCOMPARE(vocabulary, QString("frostel.dat"));
+    QCOMPARE(title, QString("Options"));
+    QCOMPARE(outer.topLeft(), centred(outer.size()));
+    QVERIFY2((editor.center() - outer.center()).manhattanLength() <= 2,
+             qPrintable(QString("%1,%2 in %3,%4")
+                            .arg(editor.x())
+                            .arg(editor.y())
+                            .arg(outer.x())
+                            .arg(outer.y())));
     QCOMPARE(g.g.MotivNr, int16_t(0));
     // The word and its miss stay; the picture is the apple tree's now; the file has it all.
     QCOMPARE(g.g.Fehler, int16_t(1));
