@@ -48,7 +48,6 @@ private slots:
     void waitsSleep();
     void inputDuringAWaitIsPlayedAfterIt_data();
     void inputDuringAWaitIsPlayedAfterIt();
-    void endingTheProgramEndsAWaitAtOnce();
 
 private:
     std::unique_ptr<MainWindow> startWindow();
@@ -208,22 +207,6 @@ void QtToolkitTest::inputDuringAWaitIsPlayedAfterIt()
     // Played once the draw had returned: both P of APPLE.
     QTRY_COMPARE(uncovered(g), 2);
     QCOMPARE(g.g.Fehler, int16_t(0));
-}
-
-void QtToolkitTest::endingTheProgramEndsAWaitAtOnce()
-{
-    auto w = startWindow();
-    assets::QtToolkit& tk = w->toolkit();
-    QTimer::singleShot(50, [&] { tk.stopWaiting(); });
-    QElapsedTimer clock;
-    clock.start();
-    tk.wait(30);
-    QVERIFY(clock.elapsed() < 10000);
-    // Every later wait and box returns at once.
-    clock.restart();
-    tk.wait(30);
-    QVERIFY(clock.elapsed() < 10000);
-    QCOMPARE(tk.msgBox("Really?", 36, "Frostel"), 7);
 }
 
 QTEST_MAIN(QtToolkitTest)
