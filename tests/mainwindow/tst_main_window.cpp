@@ -1,12 +1,12 @@
 // The real main window, offscreen and under a window manager: start-up from the settings
-// file, its place and state, shutdown, the place of its controls, and commands in each phase.
+// file, titles, shutdown, commands in each phase, and the options window from its menu.
 #include "assets/editor_window.h"
 #include "assets/options_window.h"
 #include "assets/pictures.h"
 #include "mainwindow/main_window.h"
 #include "support/files.h"
+#include "support/main_window_start.h"
 #include "support/modal.h"
-#include "vocabulary/word_file.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -24,19 +24,9 @@
 #include <QTimer>
 
 using mainwindow::MainWindow;
+using support::centred;
 
 namespace {
-
-long long tw(int px) { return px * 15LL; }
-int px(long long twips) { return int(std::lround(twips / 15.0)); }
-
-// Where a window of that outer size stands centred: the differences in twips, halved.
-QPoint centred(QSize outer)
-{
-    const QSize s = QGuiApplication::primaryScreen()->geometry().size();
-    return {px((tw(s.width()) - tw(outer.width())) / 2),
-            px((tw(s.height()) - tw(outer.height())) / 2)};
-}
 
 // Answers the next modal box with the given button once it shows; notes title and text.
 void answerNextBox(QMessageBox::StandardButton button, QStringList* texts = nullptr)
@@ -64,69 +54,22 @@ bool samePicture(const QLabel* label, const QString& name)
 
 } // namespace
 
-class MainWindowTest : public QObject {
+class MainWindowTest : public QObject, support::MainWindowStart {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
+    void init() { QVERIFY(enter()); }
+    void cleanup() { leave(); }
     void firstStartWithNoFile();
-    void restartRestoresWhatWasStored();
-    void storedStateComesBack_data();
-    void storedStateComesBack();
-    void screenBounds_data();
-    void screenBounds();
     void namesAndOptionsFromTheFile();
     void handEditedFileStartsSafely_data();
     void handEditedFileStartsSafely();
     void missingWordFileSaysSoOverTheWindow();
-    void minimumSizeAndLayout();
     void commandsInEachPhase();
     void motifChangeSwapsPictures();
     void optionsChangeEndsTheWaitWithANewWord();
     void closingDuringTheWaitEndsAtOnce();
     void theRealOptionsWindow();
-
-private:
-    std::unique_ptr<MainWindow> startWindow(const QByteArray& ini = {});
-    QTemporaryDir dir_;
-    QString oldCwd_;
-    QString ini_;
-    int exits_ = 0;
 };
-
-void MainWindowTest::init()
-{
-    oldCwd_ = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(dir_.path()));
-    for (const QString& f : QDir().entryList(QDir::Files)) QFile::remove(f);
-    QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"apple"}));
-    QVERIFY(!vocabulary::writeWordFile("zoo.dat", {"gnu"}));
-    ini_ = dir_.filePath("config/frostel.ini");
-    QDir(dir_.filePath("config")).removeRecursively();
-    exits_ = 0;
-}
-
-void MainWindowTest::cleanup() { QDir::setCurrent(oldCwd_); }
-
-std::unique_ptr<MainWindow> MainWindowTest::startWindow(const QByteArray& ini)
-{
-    if (!ini.isNull()) {
-        QDir().mkpath(dir_.filePath("config"));
-        QFile f(ini_);
-        f.open(QIODevice::WriteOnly);
-        f.write(ini);
-    }
-    MainWindow::Setup setup;
-    setup.profilePath = ini_;
-    setup.splashMs = 1; // a splash all the same: it is the main window's first owned window
-    setup.exitProgram = [this](int) { ++exits_; };
-    auto w = std::make_unique<MainWindow>(setup);
-    w->toolkit().waitScale = 0.01;
-    w->Form_Load();
-    // Where there is a window manager, it has framed the window by then (else its place fails).
-    static_cast<void>(QTest::qWaitFor([&w] { return w->frameGeometry() != w->geometry(); }));
-    return w;
-}
 
 void MainWindowTest::firstStartWithNoFile()
 {
@@ -160,98 +103,6 @@ void MainWindowTest::firstStartWithNoFile()
     for (int i = 0; i < 3; ++i) QVERIFY(w->picBut(i)->isVisible());
     QVERIFY(!w->picBut(3)->isVisible());
     QVERIFY(!QFile::exists(ini_)); // nothing is written before the end
-}
-
-void MainWindowTest::restartRestoresWhatWasStored()
-{
-    const QRect moved(50, 40, 700, 495);
-    {
-        auto w = startWindow();
-        QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
-        w->move(moved.topLeft());
-        w->resize(w->size() + QSize(60, 30));
-        QTRY_COMPARE(w->frameGeometry(), moved);
-        w->close();
-        QCOMPARE(exits_, 1);
-    }
-    // The place of the frame, which options never come with.
-    const QByteArray ini = support::readAll(ini_);
-    QCOMPARE(ini, "[Window]\r\nLeft= 750\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7425\r\n"
-                  "Status= 0\r\n");
-    // Every start comes up there again, and leaves the file as it was.
-    for (int start = 0; start < 2; ++start) {
-        auto w = startWindow();
-        QTRY_COMPARE(w->frameGeometry(), moved);
-        w->close();
-        QCOMPARE(support::readAll(ini_), ini);
-    }
-}
-
-void MainWindowTest::storedStateComesBack_data()
-{
-    QTest::addColumn<QByteArray>("ini");
-    QTest::addColumn<int>("state");      // as the window comes up
-    QTest::addColumn<bool>("minimise");  // by the player before the end
-    QTest::addColumn<QByteArray>("end"); // null: the file as it was
-    const QByteArray place =
-        "[Window]\r\nLeft= 900\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7500\r\n";
-    QTest::newRow("maximised: the place keys stay")
-        << place + "Status= 2\r\n"
-        << int(Qt::WindowMaximized) << false << QByteArray();
-    QTest::newRow("minimised, in its place") << place + "Status= 1\r\n"
-                                             << int(Qt::WindowMinimized) << false << QByteArray();
-    QTest::newRow("minimised from maximised: state 1 and the place")
-        << place + "Status= 2\r\n"
-        << int(Qt::WindowMaximized) << true
-        << QByteArray("[Window]\r\nLeft=%1\r\nTop=%2\r\nWidth=%3\r\nHeight=%4\r\nStatus= 1\r\n");
-}
-
-void MainWindowTest::storedStateComesBack()
-{
-    QFETCH(QByteArray, ini);
-    QFETCH(int, state);
-    QFETCH(bool, minimise);
-    QFETCH(QByteArray, end);
-    auto w = startWindow(ini);
-    QCOMPARE(int(w->windowState()), state);
-    if (minimise) w->showMinimized();
-    QTRY_COMPARE(bool(w->windowState() & Qt::WindowMinimized),
-                 minimise || state == Qt::WindowMinimized);
-    const QRect r = w->frameGeometry();
-    w->close();
-    auto n = [](int px) { return settings::numberForm(double(tw(px))); };
-    QCOMPARE(support::readAll(ini_),
-             end.isNull()
-                 ? ini
-                 : QString(end).arg(n(r.x()), n(r.y()), n(r.width()), n(r.height())).toLatin1());
-}
-
-void MainWindowTest::screenBounds_data()
-{
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("top");
-    QTest::addColumn<bool>("leftKept");
-    QTest::addColumn<bool>("topKept");
-    const QRect s = QGuiApplication::primaryScreen()->geometry();
-    const int maxLeft = int(tw(s.width())) - 9600, maxTop = int(tw(s.height())) - 6975;
-    QTest::newRow("right edge exactly") << maxLeft << 300 << true << true;
-    QTest::newRow("one twip further") << maxLeft + 1 << 300 << false << true;
-    QTest::newRow("left of the screen, top judged alone") << -15 << 300 << false << true;
-    QTest::newRow("below the screen") << 300 << maxTop + 1 << true << false;
-    QTest::newRow("above the screen") << 300 << -1 << true << false;
-}
-
-void MainWindowTest::screenBounds()
-{
-    QFETCH(int, left);
-    QFETCH(int, top);
-    QFETCH(bool, leftKept);
-    QFETCH(bool, topKept);
-    auto w = startWindow(
-        QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
-    const QPoint centre = centred({640, 465});
-    QTRY_COMPARE(w->frameGeometry().topLeft(),
-                 QPoint(leftKept ? px(left) : centre.x(), topKept ? px(top) : centre.y()));
 }
 
 void MainWindowTest::namesAndOptionsFromTheFile()
@@ -325,25 +176,6 @@ void MainWindowTest::missingWordFileSaysSoOverTheWindow()
     support::onNextModal<assets::OptionsWindow>([](assets::OptionsWindow* o) { o->OK()->click(); });
     w->findChild<QAction*>("opt")->trigger();
     QVERIFY2(support::readAll(ini_).contains("Datei=frostel.dat\r\n"), support::readAll(ini_));
-}
-
-void MainWindowTest::minimumSizeAndLayout()
-{
-    auto w = startWindow();
-    QTRY_COMPARE(tw(w->frameGeometry().width()), 9600LL);
-    w->findChild<QAction*>("start")->trigger();
-    // The draw puts the word 50 twips right of where the layout will.
-    QCOMPARE(w->game().board.Feld[1].Left, 3725);
-    w->resize(w->width() + 1, w->height());
-    QTRY_COMPARE(tw(w->frameGeometry().width()), 9615LL);
-    w->resize(w->width() - 1, w->height());
-    QTRY_COMPARE(tw(w->frameGeometry().width()), 9600LL);
-    // Laid out anew at the resize: the word where the layout puts it, and shown there.
-    QCOMPARE(w->game().board.Feld[1].Left, 3675);
-    QCOMPARE(w->fieldLabel(1)->pos(), QPoint(px(3675), px(3273)));
-    // Smaller is not allowed.
-    w->resize(300, 200);
-    QCOMPARE(w->frameGeometry().size(), QSize(640, 465));
 }
 
 void MainWindowTest::commandsInEachPhase()
