@@ -15,6 +15,27 @@
 #endif
 
 namespace assets {
+namespace {
+
+// The frame the window manager puts around the window: its own once it has shown, before that
+// that of another window of the program, which it frames alike; none for a frameless window.
+QMargins frameOf(const QWidget* window)
+{
+    auto frameless = [](const QWidget* w) { return w->windowFlags() & Qt::FramelessWindowHint; };
+    auto margins = [](const QWidget* w) {
+        const QRect f = w->frameGeometry(), c = w->geometry();
+        return QMargins(c.left() - f.left(), c.top() - f.top(), f.right() - c.right(),
+                        f.bottom() - c.bottom());
+    };
+    if (frameless(window)) return {};
+    if (const QMargins own = margins(window); !own.isNull()) return own;
+    for (const QWidget* other : QApplication::topLevelWidgets())
+        if (other->isVisible() && !frameless(other) && !margins(other).isNull())
+            return margins(other);
+    return {};
+}
+
+} // namespace
 
 void applyPointSizes(QWidget* widget)
 {
@@ -33,22 +54,6 @@ QPoint centredTwips(QSize screenTwips, QSize windowTwips)
     // Integer division truncates towards zero, also for negative differences.
     return QPoint((screenTwips.width() - windowTwips.width()) / 2,
                   (screenTwips.height() - windowTwips.height()) / 2);
-}
-
-QMargins frameOf(const QWidget* window)
-{
-    auto frameless = [](const QWidget* w) { return w->windowFlags() & Qt::FramelessWindowHint; };
-    auto margins = [](const QWidget* w) {
-        const QRect f = w->frameGeometry(), c = w->geometry();
-        return QMargins(c.left() - f.left(), c.top() - f.top(), f.right() - c.right(),
-                        f.bottom() - c.bottom());
-    };
-    if (frameless(window)) return {};
-    if (const QMargins own = margins(window); !own.isNull()) return own;
-    for (const QWidget* other : QApplication::topLevelWidgets())
-        if (other->isVisible() && !frameless(other) && !margins(other).isNull())
-            return margins(other);
-    return {};
 }
 
 void centreOnScreen(QWidget* window)

@@ -1,9 +1,8 @@
 #pragma once
 // What the three dialog windows share beyond their .ui files: the design values a .ui
-// cannot hold (twips, fractional point sizes, the cancel button), the program icon, and
-// centring on the screen in twips.
+// cannot hold (twips, fractional point sizes, the cancel button), the program icon, centring
+// frame and all, and titles as the window manager shows them.
 #include <QDialog>
-#include <QMargins>
 #include <QPoint>
 #include <QSize>
 
@@ -18,9 +17,6 @@ void applyPointSizes(QWidget* widget);
 // Left and top, in twips, that centre a window on a screen: each difference halved and
 // cut towards zero, so a window larger than the screen gets negative values.
 QPoint centredTwips(QSize screenTwips, QSize windowTwips);
-// The frame the window manager puts around the window: its own once it has shown, before that
-// that of another window of the program, which it frames alike; none for a frameless window.
-QMargins frameOf(const QWidget* window);
 // Moves the window, frame and all, to the middle of the primary screen by one move.
 void centreOnScreen(QWidget* window);
 // Moves the window, frame and all, to the middle of its owner.

@@ -3,14 +3,12 @@
 
 #include "assets/picture_button.h"
 #include "assets/pictures.h"
+#include "assets/twips.h"
 #include "ui_eisfig.h"
-
-#include <cmath>
 
 namespace mainwindow {
 namespace {
 
-int px(double twips) { return int(std::lround(twips / 15.0)); }
 long long tw(int pixels) { return (long long)pixels * 15; }
 
 QColor fromBgr(uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
@@ -100,7 +98,7 @@ void MainWindow::sync()
         }
     }
     if (b.B_Folge0_Height != shownHeight_) {
-        B_Folge_[0]->resize(B_Folge_[1]->width(), px(b.B_Folge0_Height));
+        B_Folge_[0]->resize(B_Folge_[1]->width(), assets::twipsToPixels(b.B_Folge0_Height));
         shownHeight_ = b.B_Folge0_Height;
     }
     for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);

@@ -2,14 +2,16 @@
 // them count the frame that a window manager puts around the window.
 #include "mainwindow/main_window.h"
 
+#include "assets/twips.h"
+
 #include <QGuiApplication>
 #include <QScreen>
-#include <cmath>
 
 namespace mainwindow {
 namespace {
 
-int px(double twips) { return int(std::lround(twips / 15.0)); }
+using assets::twipsToPixels;
+
 long long tw(int pixels) { return (long long)pixels * 15; }
 
 const QString kWindow = QStringLiteral("Window");
@@ -42,13 +44,14 @@ void MainWindow::restorePlace()
     if (left < 0 || left > screenW - w) left = centreLeft;
     if (top < 0 || top > screenH - h) top = centreTop;
     // Before the window is made, a move places the corner of its frame.
-    if (!maximized) move(px(double(left)), px(double(top)));
+    if (!maximized) move(twipsToPixels(double(left)), twipsToPixels(double(top)));
 }
 
 void MainWindow::setOuterSize(int widthTwips, int heightTwips)
 {
     // Sizes from a hand-edited file stay within what a screen can hold.
-    outerWanted_ = QSize(qBound(1, px(widthTwips), 16384), qBound(1, px(heightTwips), 16384));
+    outerWanted_ = QSize(qBound(1, twipsToPixels(widthTwips), 16384),
+                         qBound(1, twipsToPixels(heightTwips), 16384));
     lastFrame_ = QSize(-1, -1); // fitted to the frame known now, and again to the real one
     fitFrame();
 }
