@@ -12,8 +12,8 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     QApplication::setStyle(new assets::LeanStyle);
+    // No display name: Qt would append it to every title the window manager shows.
     QApplication::setApplicationName(QStringLiteral("frostel32"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Frostel32"));
     QApplication::setApplicationVersion(QStringLiteral("2.31"));
     QApplication::setDesktopFileName(QStringLiteral("net.frostel32.frostel32"));
     // Word files and sounds are found by bare name in the working folder.

@@ -1,6 +1,7 @@
 #include "assets/qt_toolkit.h"
 
 #include "assets/sound_player.h"
+#include "assets/window_design.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -28,6 +29,19 @@ uint64_t mix(uint64_t z)
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
     return z ^ (z >> 31);
 }
+
+// A box whose title reads on screen as given, also an empty one.
+class Box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        keepEmptyTitle(this);
+    }
+};
 
 } // namespace
 
@@ -92,8 +106,8 @@ int QtToolkit::msgBox(const QString& text, int type, const QString& title)
 {
     if (stopped_) return core::kAnswerNo;
     present();
-    QMessageBox box(main_ && main_->isVisible() ? main_.data() : nullptr);
-    box.setWindowTitle(title.isEmpty() ? QApplication::applicationDisplayName() : title);
+    Box box(main_ && main_->isVisible() ? main_.data() : nullptr);
+    box.setWindowTitle(title);
     QString shown = text;
     box.setText(shown.replace(QChar(13), QChar('\n')));
     if (type == core::kYesNoQuestion) {

@@ -1,7 +1,7 @@
 #pragma once
 // What the three dialog windows share beyond their .ui files: the design values a .ui
-// cannot hold (twips, fractional point sizes, the cancel button), the program icon, and
-// centring on the screen in twips.
+// cannot hold (twips, fractional point sizes, the cancel button), the program icon, centring
+// frame and all, and titles as the window manager shows them.
 #include <QDialog>
 #include <QPoint>
 #include <QSize>
@@ -17,8 +17,13 @@ void applyPointSizes(QWidget* widget);
 // Left and top, in twips, that centre a window on a screen: each difference halved and
 // cut towards zero, so a window larger than the screen gets negative values.
 QPoint centredTwips(QSize screenTwips, QSize windowTwips);
-// Moves the window to the middle of the primary screen by one move.
+// Moves the window, frame and all, to the middle of the primary screen by one move.
 void centreOnScreen(QWidget* window);
+// Moves the window, frame and all, to the middle of its owner.
+void centreOnOwner(QWidget* window, const QWidget* owner);
+// Qt on X11 shows the program's name where a window has no title. Writes the empty title to
+// the window itself; call it once the window is made, before it maps (from its show event).
+void keepEmptyTitle(QWidget* window);
 
 class DesignDialog : public QDialog {
     Q_OBJECT

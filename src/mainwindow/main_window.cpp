@@ -13,22 +13,17 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QTimer>
-#include <QWindow>
 #include <cmath>
 
 namespace mainwindow {
 namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
-constexpr int kDesignWidth = 9600, kDesignHeight = 6975; // outer size of the design
 constexpr int kPicture1Width = 9000;
 
 int px(double twips) { return int(std::lround(twips / kTwipsPerPixel)); }
 long long tw(int pixels) { return (long long)pixels * 15; }
-
-QColor fromBgr(uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 
 const QString kWindow = QStringLiteral("Window");
 const QString kSettings = QStringLiteral("Einstellungen");
@@ -47,7 +42,7 @@ MainWindow::MainWindow(Setup setup)
     pal.setColor(QPalette::Window, QColor(0, 0, 128));
     ui_->client->setPalette(pal);
     ui_->client->setAutoFillBackground(true);
-    setMinimumSize(px(kDesignWidth), px(kDesignHeight));
+    setMinimumSize(kDesignOuter.width(), kDesignOuter.height());
 
     for (int i = 0; i < core::kTiles; ++i) {
         alpha_[i] = findChild<QLabel*>(QStringLiteral("alpha_%1").arg(i));
@@ -99,33 +94,6 @@ MainWindow::~MainWindow()
     tk_.onEnd = nullptr;
 }
 
-void MainWindow::loadPictures()
-{
-    const qreal dpr = devicePixelRatioF();
-    for (int i = 0; i < core::kTiles; ++i) {
-        tilePictures_[i] = assets::picture(QStringLiteral("alpha%1").arg(i), dpr);
-        alpha_[i]->setPixmap(tilePictures_[i]);
-        alpha_[i]->setCursor(Qt::PointingHandCursor);
-    }
-    covered_ = assets::picture(QStringLiteral("feld0"), dpr);
-    ui_->Feld_0->setPixmap(covered_);
-    ui_->Picture1->setPixmap(assets::picture(QStringLiteral("picture1"), dpr));
-    symbols_ = {assets::picture(QStringLiteral("symbol0"), dpr),
-                assets::picture(QStringLiteral("symbol1"), dpr)};
-    ui_->Symbol_0->setPixmap(symbols_[0]);
-    ui_->Symbol_1->setPixmap(symbols_[1]);
-    ui_->Punkt_0->setPixmap(assets::picture(QStringLiteral("punkt0"), dpr));
-    shownSymbol_.fill(-1);
-    shownSymbol_[0] = 1;
-    for (int i = 0; i < 3; ++i)
-        picButs_[i]->setPicture(assets::picture(QStringLiteral("picbut%1").arg(i), dpr));
-    QPalette pal = ui_->PicBut_3->palette();
-    pal.setColor(QPalette::Button, QColor(0, 128, 128));
-    pal.setColor(QPalette::ButtonText, Qt::white);
-    ui_->PicBut_3->setPalette(pal);
-    ui_->PicBut_3->setAutoFillBackground(true);
-}
-
 // --- start-up and shutdown --------------------------------------------------------------
 
 void MainWindow::setCaptions()
@@ -175,50 +143,14 @@ void MainWindow::Form_Load()
     sync();
 }
 
-void MainWindow::restorePlace()
-{
-    const int16_t status = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
-    if (status == 2) setWindowState(Qt::WindowMaximized);
-    else if (status == 1) setWindowState(Qt::WindowMinimized);
-    const bool maximized = windowState() & Qt::WindowMaximized;
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const long long screenW = tw(screen.width()), screenH = tw(screen.height());
-    long long centreLeft = 0, centreTop = 0;
-    long long left = tw(x()), top = tw(y());
-    if (!maximized) {
-        centreLeft = core::idiv(double(screenW - kDesignWidth), 2);
-        centreTop = core::idiv(double(screenH - kDesignHeight), 2);
-        left = profile_.GetPrivateProfileInt(kWindow, "Left", int(centreLeft));
-        top = profile_.GetPrivateProfileInt(kWindow, "Top", int(centreTop));
-        const int width = profile_.GetPrivateProfileInt(kWindow, "Width", 9600);
-        const int height = profile_.GetPrivateProfileInt(kWindow, "Height", 6900);
-        setOuterSize(width, height);
-    }
-    // Off the screen, by the size the window has now: back to the centre.
-    const long long w = tw(frameGeometry().width()), h = tw(frameGeometry().height());
-    if (left < 0 || left > screenW - w) left = centreLeft;
-    if (top < 0 || top > screenH - h) top = centreTop;
-    if (!maximized) move(px(double(left)), px(double(top)));
-}
-
-void MainWindow::setOuterSize(int widthTwips, int heightTwips)
-{
-    // Sizes from a hand-edited file stay within what a screen can hold.
-    outerWanted_ = QSize(qBound(1, px(widthTwips), 16384), qBound(1, px(heightTwips), 16384));
-    const QSize frame = frameGeometry().size() - geometry().size();
-    lastFrame_ = frame;
-    resize((outerWanted_ - frame).expandedTo(minimumSize()));
-}
-
 void MainWindow::presetOptions()
 {
     core::Global& g = game_.g;
     g.AnzSpieler = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzahl", 4));
     g.AnzTips = int16_t(profile_.GetPrivateProfileInt(kSettings, "Tips", 3));
-    // What the options window reads when it loads: the vocabulary.
-    const QString stored =
-        profile_.GetPrivateProfileString(kSettings, "Datei", QString(255, ' '), 255);
-    g.WortDatei = settings::chooseWordFile(stored, settings::wordFileRows());
+    // The options window loads here, after the counts and before the motif; its controls are
+    // made at its first showing, from what it loaded now.
+    options_->load();
     g.MotivNr = int16_t(profile_.GetPrivateProfileInt(kSettings, "Motiv", 1));
     const bool all = int16_t(profile_.GetPrivateProfileInt(kSettings, "Wiederholung", 1)) == -1;
     game_.einst.wiederh = {all, !all};
@@ -252,19 +184,7 @@ void MainWindow::Form_Unload()
 {
     if (unloaded_) return;
     unloaded_ = true;
-    const bool maximized = windowState() & Qt::WindowMaximized;
-    const bool minimized = windowState() & Qt::WindowMinimized;
-    if (maximized) {
-        profile_.WritePrivateProfileString(kWindow, "Status", settings::numberForm(2));
-    } else {
-        const QRect r = frameGeometry();
-        profile_.WritePrivateProfileString(kWindow, "Left", settings::numberForm(tw(r.x())));
-        profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
-        profile_.WritePrivateProfileString(kWindow, "Width", settings::numberForm(tw(r.width())));
-        profile_.WritePrivateProfileString(kWindow, "Height", settings::numberForm(tw(r.height())));
-        profile_.WritePrivateProfileString(kWindow, "Status",
-                                           settings::numberForm(minimized ? 1 : 0));
-    }
+    storePlace();
     // Ends every wait at once; the game's routines stop where they stand.
     game_.programEnded();
     tk_.stopWaiting();
@@ -355,36 +275,9 @@ void MainWindow::resizeEvent(QResizeEvent* event)
     Anordnen();
 }
 
-void MainWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    // No event tells of the frame a window manager puts around the window; by the time the
-    // window is activated it is there.
-    if (event->type() == QEvent::ActivationChange) fitFrame();
-    if (event->type() == QEvent::WindowStateChange && !(windowState() & Qt::WindowMinimized))
-        Anordnen();
-}
-
 void MainWindow::moveTwips(QWidget* w, long long left, long long top)
 {
     w->move(px(double(left)), px(double(top)));
-}
-
-void MainWindow::fitFrame()
-{
-    // Sizes count the frame, which the window manager adds only once the window shows.
-    const QSize frame = frameGeometry().size() - geometry().size();
-    setMinimumSize(px(kDesignWidth) - frame.width(), px(kDesignHeight) - frame.height());
-    if (frame == lastFrame_) return;
-    lastFrame_ = frame;
-    if (outerWanted_.isValid() && windowState() == Qt::WindowNoState)
-        resize((outerWanted_ - frame).expandedTo(minimumSize()));
-}
-
-void MainWindow::moveEvent(QMoveEvent* event)
-{
-    QMainWindow::moveEvent(event);
-    fitFrame();
 }
 
 void MainWindow::Anordnen()
@@ -405,126 +298,5 @@ void MainWindow::Anordnen()
     moveTwips(ui_->PicBut_3, l.picBut3.left, l.picBut3.top);
     syncFields();
 }
-
-// --- drawing the game -----------------------------------------------------------------------
-
-void MainWindow::syncFields()
-{
-    const auto& fields = game_.board.Feld;
-    for (size_t i = fields.size(); i < Feld_.size(); ++i) delete Feld_[i];
-    Feld_.resize(std::max<size_t>(1, std::min(Feld_.size(), fields.size())));
-    for (size_t i = 0; i < fields.size(); ++i) {
-        const core::Field& f = fields[i];
-        if (i > 0 && !f.loaded) {
-            if (i < Feld_.size() && Feld_[i]) {
-                delete Feld_[i];
-                Feld_[i] = nullptr;
-            }
-            continue;
-        }
-        if (i >= Feld_.size()) Feld_.resize(i + 1, nullptr);
-        QLabel*& label = Feld_[i];
-        if (!label) {
-            label = new QLabel(ui_->client);
-            label->resize(ui_->Feld_0->size());
-            label->setPixmap(covered_);
-            label->setProperty("picture", -1);
-        }
-        moveTwips(label, f.Left, f.Top);
-        if (label->property("picture").toInt() != f.picture) {
-            label->setPixmap(f.picture < 0 ? covered_ : tilePictures_[f.picture]);
-            label->setProperty("picture", f.picture);
-        }
-        label->setVisible(i > 0 && f.Visible);
-    }
-}
-
-void MainWindow::sync()
-{
-    if (unloaded_) return;
-    const core::Board& b = game_.board;
-    for (int i = 0; i < core::kTiles; ++i) {
-        alpha_[i]->setVisible(b.alpha[i].Visible);
-        alpha_[i]->setCursor(b.alpha[i].Enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    }
-    if (b.seriesMotif != shownSeries_ && b.seriesMotif >= 0) {
-        shownSeries_ = b.seriesMotif;
-        stageLoaded_.fill(false);
-    }
-    // Only the pictures on show are held: one stage or two, not twenty.
-    const QString stem =
-        shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
-    for (int s = 0; s < core::kStages; ++s) {
-        if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_ >= 0) {
-            B_Folge_[s]->setPixmap(assets::picture(stem.arg(s), devicePixelRatioF()));
-            stageLoaded_[s] = true;
-        } else if (!b.B_Folge_Visible[s] && stageLoaded_[s]) {
-            B_Folge_[s]->clear();
-            stageLoaded_[s] = false;
-        }
-    }
-    if (b.B_Folge0_Height != shownHeight_) {
-        B_Folge_[0]->resize(B_Folge_[1]->width(), px(b.B_Folge0_Height));
-        shownHeight_ = b.B_Folge0_Height;
-    }
-    for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);
-
-    for (int i = 0; i < core::kPlayers; ++i) {
-        const core::PlayerLabel& p = b.Spieler[i];
-        if (!p.loaded) continue;
-        QLabel*& label = Spieler_[i];
-        if (!label) {
-            label = new QLabel(ui_->client);
-            label->setFont(ui_->Spieler_0->font());
-            label->setFrameStyle(ui_->Spieler_0->frameStyle());
-            label->setAlignment(ui_->Spieler_0->alignment());
-            label->setAutoFillBackground(true);
-            label->resize(ui_->Spieler_0->size());
-        }
-        moveTwips(label, p.Left, p.Top);
-        label->setText(p.Caption);
-        QPalette pal = label->palette();
-        pal.setColor(QPalette::Window, fromBgr(p.BackColor));
-        pal.setColor(QPalette::WindowText, fromBgr(p.ForeColor));
-        label->setPalette(pal);
-        label->setVisible(p.Visible);
-    }
-    for (int k = 0; k < core::kSymbols; ++k) {
-        const core::PointSymbol& s = b.Punkt[k];
-        if (!s.loaded) continue;
-        QLabel*& label = Punkt_[k];
-        if (!label) {
-            label = new QLabel(ui_->client);
-            label->resize(ui_->Punkt_0->size());
-        }
-        moveTwips(label, s.Left, s.Top);
-        if (shownSymbol_[k] != s.symbol) {
-            label->setPixmap(symbols_[s.symbol == 0 ? 0 : 1]);
-            shownSymbol_[k] = s.symbol;
-        }
-        label->setVisible(s.Visible);
-    }
-    syncFields();
-    ui_->tip->setEnabled(b.tip_Enabled);
-    ui_->weiter->setEnabled(b.weiter_Enabled);
-    for (int i = 0; i < 3; ++i) picButs_[i]->setVisible(b.PicBut_Visible[i]);
-    ui_->PicBut_3->setVisible(b.PicBut_Visible[3]);
-}
-
-// --- for tests --------------------------------------------------------------------------------
-
-Twips MainWindow::placeOf(const QWidget* w) const { return {tw(w->x()), tw(w->y())}; }
-
-QLabel* MainWindow::fieldLabel(int i) const
-{
-    return i >= 0 && size_t(i) < Feld_.size() ? Feld_[i] : nullptr;
-}
-
-QWidget* MainWindow::picBut(int i) const
-{
-    return i >= 0 && i < 3 ? static_cast<QWidget*>(picButs_[i]) : ui_->PicBut_3;
-}
-
-QWidget* MainWindow::letterPanel() const { return ui_->Picture1; }
 
 } // namespace mainwindow

@@ -83,6 +83,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    static constexpr QSize kDesignOuter{640, 465}; // 9600 x 6975 twips, frame included
+
     void command(const std::function<void()>& submit);
     void setCaptions();
     void restorePlace();
@@ -92,6 +94,7 @@ private:
     void syncFields();
     void setOuterSize(int widthTwips, int heightTwips);
     void fitFrame();
+    void storePlace();
     void unloadMainWindow();
     void Form_Unload();
     void moveTwips(QWidget* w, long long left, long long top);

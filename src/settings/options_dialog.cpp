@@ -52,8 +52,17 @@ OptionsDialog::OptionsDialog(core::Game& game, Profile& profile, QWidget* parent
 
 OptionsDialog::~OptionsDialog() { delete window_.data(); }
 
+void OptionsDialog::load()
+{
+    rows_ = wordFileRows();
+    // The stored name if the list holds it exactly, else the first row.
+    game_.g.WortDatei = chooseWordFile(storedWordFile(profile_), rows_);
+    loaded_ = true;
+}
+
 assets::OptionsWindow* OptionsDialog::window()
 {
+    if (!loaded_) load();
     if (!window_) Form_Load();
     return window_;
 }
@@ -96,21 +105,16 @@ void OptionsDialog::Form_Load()
     connect(w->EditButt(), &QPushButton::clicked, this, &OptionsDialog::EditButt_Click);
     w->installEventFilter(this);
 
-    // The vocabulary: the stored name if the list holds it exactly, else the first row.
-    const QStringList rows = wordFileRows();
+    // The vocabulary as loaded: its rows, and the one WortDatei names.
     QListWidget* list = w->wortsch();
-    list->addItems(rows);
+    list->addItems(rows_);
     connect(list, &QListWidget::currentRowChanged, this, &OptionsDialog::WortSch_Click);
     connect(list, &QListWidget::itemDoubleClicked, this, [this, list](QListWidgetItem* item) {
         WortSch_Click(list->row(item));
         OK_Click();
     });
-    game_.g.WortDatei = chooseWordFile(storedWordFile(profile_), rows);
-    if (!rows.isEmpty()) {
-        const int index = int(rows.indexOf(game_.g.WortDatei));
+    if (const int index = int(rows_.indexOf(game_.g.WortDatei)); index >= 0)
         list->setCurrentRow(index);
-        WortSch_Click(index); // also when the row was current already
-    }
 
     QListWidget* motiv = w->Motiv();
     motiv->addItems({QStringLiteral("Apple tree"), QStringLiteral("Frostel")});
@@ -149,9 +153,9 @@ void OptionsDialog::unload()
 {
     delete window_.data();
     // What the game reads from the window is back at the design values; the counts and the
-    // motif live in the game and stay. The vocabulary is read from the file as at a load.
+    // motif live in the game and stay. The next use loads it anew: folder and stored name.
     game_.einst = core::Options{};
-    game_.g.WortDatei = chooseWordFile(storedWordFile(profile_), wordFileRows());
+    load();
 }
 
 bool OptionsDialog::eventFilter(QObject* watched, QEvent* event)

@@ -25,10 +25,14 @@ public:
     OptionsDialog(core::Game& game, Profile& profile, QWidget* parent = nullptr);
     ~OptionsDialog() override;
 
+    // What loading the window decides, done at start-up: the vocabulary files of the working
+    // folder as it is then, and WortDatei from the stored name. The controls are made at the
+    // first use of the window, with what was decided here.
+    void load();
     // Shows the window modally and returns when OK, a double click in one of the lists or
     // the close box has ended it.
     void show();
-    // The window, loaded if it is not: with the game's options the first time, with its
+    // The window, made if it is not: with the game's options the first time, with its
     // design values once the close box has discarded it.
     assets::OptionsWindow* window();
 
@@ -68,6 +72,8 @@ private:
     Profile& profile_;
     QWidget* parent_;
     QPointer<assets::OptionsWindow> window_;
+    bool loaded_ = false;
+    QStringList rows_;        // the vocabulary list as loaded
     bool presetDone_ = false; // the controls take the game's options at the first load only
     bool loading_ = false;    // filling the controls is no change of the user's
     Press letzterDruck_;

@@ -1,19 +1,33 @@
 #!/usr/bin/env bash
 # The real program under Xvfb with a window manager: start a game by its shortcut, play a
-# word to its end by keys, end the wait with Enter, quit through the menu, and check what
-# the settings file then holds.
-#   under_xvfb.sh play_a_word.sh FROSTEL32_BINARY
+# word to its end by keys, end the wait with Enter, quit through the menu, and check the
+# titles the window manager shows and what the settings file then holds.
+#   under_xvfb.sh with_openbox.sh play_a_word.sh FROSTEL32_BINARY
 set -u
 bin=$(readlink -f "$1")
 [ -n "${FROSTEL_XVFB:-}" ] || { echo "skipped: run it under under_xvfb.sh"; exit 77; }
-for tool in xdotool openbox; do
+for tool in xdotool xprop; do
     command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
 done
 work=$(mktemp -d)
-wpid=""; gpid=""
-cleanup() { kill $gpid $wpid 2>/dev/null; wait 2>/dev/null; rm -rf "$work"; }
-trap cleanup EXIT; trap "cat $work/game.log" EXIT
-fail() { echo "FAIL: $*"; [ -f "$work/game.log" ] && sed 's/^/  game: /' "$work/game.log"; exit 1; }
+gpid=""
+cleanup() { [ -n "$gpid" ] && kill $gpid 2>/dev/null; wait 2>/dev/null; rm -rf "$work"; }
+trap cleanup EXIT
+fail() { echo "FAIL: $*"; [ -f "$work/game.log" ] && sed 's/^/  game: /' "$work/game.log"; exit 1; } >&2
+# The game's visible window with that title, waited for up to 10 s; its title must be exactly
+# that as the window manager has it.
+window() {
+    local w="" shown
+    for _ in $(seq 100); do
+        w=$(xdotool search --all --pid $gpid --onlyvisible --name "^$1" 2>/dev/null | tail -1)
+        [ -n "$w" ] && break
+        sleep 0.1
+    done
+    [ -n "$w" ] || fail "no window \"$1\""
+    shown=$(xprop -id "$w" _NET_WM_NAME | sed -n 's/^_NET_WM_NAME(UTF8_STRING) = //p')
+    [ "$shown" = "\"$1\"" ] || fail "title $shown, not \"$1\""
+    echo "$w"
+}
 
 # A game folder of its own with a one-word vocabulary, so the word is known.
 mkdir -p "$work/game" "$work/home"
@@ -24,17 +38,8 @@ export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/ho
 export XDG_RUNTIME_DIR=$work/home/.runtime
 mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
 
-openbox >/dev/null 2>&1 & wpid=$!
-sleep 0.5
-
 (cd "$work/game" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!
-win=""
-for _ in $(seq 100); do # the splash comes first
-    win=$(xdotool search --onlyvisible --name '^Frostel32 v2.31$' 2>/dev/null | head -1)
-    [ -n "$win" ] && break
-    sleep 0.1
-done
-[ -n "$win" ] || fail "the main window did not appear"
+win=$(window "Frostel32 v2.31") || exit 1 # the splash comes first
 xdotool windowactivate --sync "$win" 2>/dev/null
 sleep 0.3
 xdotool key --window "$win" ctrl+s
@@ -44,7 +49,7 @@ sleep 1.5
 xdotool key Return # next word
 sleep 2.5
 xdotool key ctrl+e
-sleep 0.8
+window "Program end" >/dev/null || exit 1
 xdotool key Return # Yes is the default
 for _ in $(seq 50); do kill -0 $gpid 2>/dev/null || break; sleep 0.1; done
 kill -0 $gpid 2>/dev/null && fail "the program did not end after End and Yes"

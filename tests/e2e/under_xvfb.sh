@@ -11,7 +11,13 @@ for n in $(seq 140 169); do
     [ -e /tmp/.X11-unix/X$n ] || [ -e /tmp/.X$n-lock ] && continue
     Xvfb :$n -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 & xpid=$!
     export DISPLAY=:$n
-    for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break 2; sleep 0.1; done
+    # Ours only if its lock names our server: another test may have taken the display first.
+    for _ in $(seq 50); do
+        kill -0 $xpid 2>/dev/null || break
+        [ "$(tr -d ' ' 2>/dev/null </tmp/.X$n-lock)" = "$xpid" ] && xdpyinfo >/dev/null 2>&1 &&
+            break 2
+        sleep 0.1
+    done
     kill $xpid 2>/dev/null; xpid="" # never came up: try the next display
 done
 [ -n "$xpid" ] || { echo "no free display for Xvfb"; exit 1; }

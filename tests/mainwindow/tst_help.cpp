@@ -1,4 +1,4 @@
-// The help window: the three requests of the help menu, links, and the search.
+// The help window: the three requests of the help menu, and the search.
 #include "mainwindow/help_window.h"
 
 #include <QLineEdit>
@@ -12,7 +12,6 @@ class HelpTest : public QObject {
     Q_OBJECT
 private slots:
     void requests();
-    void linksAndHistory();
     void search_data();
     void search();
     void searchFieldLists_data();
@@ -32,17 +31,6 @@ void HelpTest::requests()
     help.showHelpOnHelp();
     QCOMPARE(help.currentPage(), QString("helponhelp.html"));
     QVERIFY(help.browser()->toPlainText().contains("search", Qt::CaseInsensitive));
-}
-
-void HelpTest::linksAndHistory()
-{
-    HelpWindow help;
-    help.showContents();
-    help.browser()->setSource(QUrl("play.html"));
-    QCOMPARE(help.currentPage(), QString("play.html"));
-    QVERIFY(!help.browser()->toPlainText().isEmpty());
-    help.browser()->backward();
-    QCOMPARE(help.currentPage(), QString("index.html"));
 }
 
 void HelpTest::search_data()

@@ -1,11 +1,12 @@
-// The real main window, offscreen: start-up from the settings file, shutdown, the place of
-// its controls, and commands in each phase of a game.
+// The real main window, offscreen and under a window manager: start-up from the settings
+// file, titles, shutdown, commands in each phase, and the options window from its menu.
+#include "assets/editor_window.h"
 #include "assets/options_window.h"
 #include "assets/pictures.h"
 #include "mainwindow/main_window.h"
 #include "support/files.h"
+#include "support/main_window_start.h"
 #include "support/modal.h"
-#include "vocabulary/word_file.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -16,23 +17,33 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 using mainwindow::MainWindow;
+using support::centred;
 
 namespace {
 
-long long tw(int px) { return px * 15LL; }
-
-// Answers the next modal box with the given button once it shows.
+// Answers the next modal box with the given button once it shows; notes title and text.
 void answerNextBox(QMessageBox::StandardButton button, QStringList* texts = nullptr)
 {
     support::onNextModal<QMessageBox>([=](QMessageBox* box) {
-        if (texts) texts->append(box->text());
+        if (texts) texts->append(support::shownTitle(box) + ": " + box->text());
         box->button(button)->click();
+    });
+}
+
+// Runs `act` from the wait once a finished word waits for "next word".
+void whenHeld(MainWindow* w, const std::function<void()>& act)
+{
+    auto* weiter = w->findChild<QAction*>("weiter");
+    auto held = std::make_shared<QMetaObject::Connection>();
+    *held = QObject::connect(weiter, &QAction::enabledChanged, weiter, [=](bool on) {
+        if (on && QObject::disconnect(*held)) QTimer::singleShot(0, weiter, act);
     });
 }
 
@@ -43,79 +54,30 @@ bool samePicture(const QLabel* label, const QString& name)
 
 } // namespace
 
-class MainWindowTest : public QObject {
+class MainWindowTest : public QObject, support::MainWindowStart {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
+    void init() { QVERIFY(enter()); }
+    void cleanup() { leave(); }
     void firstStartWithNoFile();
-    void restartRestoresWhatWasStored();
-    void maximisedLeavesPlaceKeysAlone();
-    void screenBounds_data();
-    void screenBounds();
     void namesAndOptionsFromTheFile();
     void handEditedFileStartsSafely_data();
     void handEditedFileStartsSafely();
     void missingWordFileSaysSoOverTheWindow();
-    void minimumSizeAndLayout();
     void commandsInEachPhase();
     void motifChangeSwapsPictures();
     void optionsChangeEndsTheWaitWithANewWord();
     void closingDuringTheWaitEndsAtOnce();
     void theRealOptionsWindow();
-    void unwritableSettingsFolder();
-
-private:
-    std::unique_ptr<MainWindow> startWindow(const QByteArray& ini = {});
-    QTemporaryDir dir_;
-    QString oldCwd_;
-    QString ini_;
-    int exits_ = 0;
 };
-
-void MainWindowTest::init()
-{
-    oldCwd_ = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(dir_.path()));
-    for (const QString& f : QDir().entryList(QDir::Files)) QFile::remove(f);
-    QVERIFY(!vocabulary::writeWordFile("frostel.dat", {"apple"}));
-    QVERIFY(!vocabulary::writeWordFile("zoo.dat", {"gnu"}));
-    ini_ = dir_.filePath("config/frostel.ini");
-    QDir(dir_.filePath("config")).removeRecursively();
-    exits_ = 0;
-}
-
-void MainWindowTest::cleanup() { QDir::setCurrent(oldCwd_); }
-
-std::unique_ptr<MainWindow> MainWindowTest::startWindow(const QByteArray& ini)
-{
-    if (!ini.isNull()) {
-        QDir().mkpath(dir_.filePath("config"));
-        QFile f(ini_);
-        f.open(QIODevice::WriteOnly);
-        f.write(ini);
-    }
-    MainWindow::Setup setup;
-    setup.profilePath = ini_;
-    setup.splashMs = 0;
-    setup.exitProgram = [this](int) { ++exits_; };
-    auto w = std::make_unique<MainWindow>(setup);
-    w->toolkit().waitScale = 0.01;
-    w->Form_Load();
-    return w;
-}
 
 void MainWindowTest::firstStartWithNoFile()
 {
     auto w = startWindow();
-    QVERIFY(w->isVisible());
-    QCOMPARE(w->windowTitle(), QString("Frostel32 v2.31"));
-    const QRect outer = w->frameGeometry();
-    QCOMPARE(tw(outer.width()), 9600LL);
-    QCOMPARE(tw(outer.height()), 6975LL); // the stored default 6900 is below the minimum
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    QCOMPARE(outer.x(), int(std::lround((tw(screen.width()) - 9600) / 2 / 15.0)));
-    QCOMPARE(outer.y(), int(std::lround((tw(screen.height()) - 6975) / 2 / 15.0)));
+    // Centred by its outer size, 9600 x 6975 twips: the stored height 6900 is below the minimum.
+    const QSize outer(640, 465);
+    QTRY_COMPARE(w->frameGeometry(), QRect(centred(outer), outer));
+    QCOMPARE(support::shownTitle(w.get()), QString("Frostel32 v2.31"));
     const core::Game& g = w->game();
     QCOMPARE(g.g.AnzSpieler, int16_t(4));
     QCOMPARE(g.g.AnzTips, int16_t(3));
@@ -141,66 +103,6 @@ void MainWindowTest::firstStartWithNoFile()
     for (int i = 0; i < 3; ++i) QVERIFY(w->picBut(i)->isVisible());
     QVERIFY(!w->picBut(3)->isVisible());
     QVERIFY(!QFile::exists(ini_)); // nothing is written before the end
-}
-
-void MainWindowTest::restartRestoresWhatWasStored()
-{
-    {
-        auto w = startWindow();
-        w->move(50, 40);
-        w->resize(w->width() + 60, w->height() + 30);
-        QTest::qWait(20);
-        w->close();
-        QCOMPARE(exits_, 1);
-    }
-    const QByteArray ini = support::readAll(ini_);
-    QVERIFY(ini.startsWith("[Window]\r\nLeft= 750\r\nTop= 600\r\n"));
-    QVERIFY(ini.contains("\r\nStatus= 0\r\n"));
-    QVERIFY(!ini.contains("Einstellungen")); // options are written by the options window only
-    auto w = startWindow();
-    QCOMPARE(w->frameGeometry().topLeft(), QPoint(50, 40));
-    QCOMPARE(tw(w->frameGeometry().width()), 9600LL + 900);
-    QCOMPARE(tw(w->frameGeometry().height()), 6975LL + 450);
-}
-
-void MainWindowTest::maximisedLeavesPlaceKeysAlone()
-{
-    const QByteArray before =
-        "[Window]\r\nLeft= 3000\r\nTop= 45\r\nWidth= 12000\r\nHeight= 8000\r\nStatus= 2\r\n";
-    auto w = startWindow(before);
-    QVERIFY(w->windowState() & Qt::WindowMaximized);
-    w->close();
-    QCOMPARE(support::readAll(ini_), before); // only Status written, with the same value
-}
-
-void MainWindowTest::screenBounds_data()
-{
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("top");
-    QTest::addColumn<bool>("leftKept");
-    QTest::addColumn<bool>("topKept");
-    const QRect s = QGuiApplication::primaryScreen()->geometry();
-    const int maxLeft = int(tw(s.width())) - 9600, maxTop = int(tw(s.height())) - 6975;
-    QTest::newRow("right edge exactly") << maxLeft << 300 << true << true;
-    QTest::newRow("one twip further") << maxLeft + 1 << 300 << false << true;
-    QTest::newRow("left of the screen, top judged alone") << -15 << 300 << false << true;
-    QTest::newRow("below the screen") << 300 << maxTop + 1 << true << false;
-    QTest::newRow("above the screen") << 300 << -1 << true << false;
-}
-
-void MainWindowTest::screenBounds()
-{
-    QFETCH(int, left);
-    QFETCH(int, top);
-    QFETCH(bool, leftKept);
-    QFETCH(bool, topKept);
-    auto w = startWindow(
-        QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
-    const QRect s = QGuiApplication::primaryScreen()->geometry();
-    const int centreLeft = int(std::lround(((tw(s.width()) - 9600) / 2) / 15.0));
-    const int centreTop = int(std::lround(((tw(s.height()) - 6975) / 2) / 15.0));
-    QCOMPARE(w->frameGeometry().x(), leftKept ? int(std::lround(left / 15.0)) : centreLeft);
-    QCOMPARE(w->frameGeometry().y(), topKept ? int(std::lround(top / 15.0)) : centreTop);
 }
 
 void MainWindowTest::namesAndOptionsFromTheFile()
@@ -261,52 +163,17 @@ void MainWindowTest::missingWordFileSaysSoOverTheWindow()
     QFile::remove("frostel.dat");
     QFile::remove("zoo.dat");
     QStringList texts;
-    bool visibleWhenAsked = false;
-    QTimer::singleShot(0, [&] {
-        auto* main = qobject_cast<MainWindow*>(QApplication::topLevelWidgets().value(0));
-        visibleWhenAsked = main && main->isVisible();
-    });
     answerNextBox(QMessageBox::Ok, &texts);
     auto w = startWindow();
-    QCOMPARE(texts, QStringList{"File frostel.dat not found!"});
+    QCOMPARE(texts, QStringList{"Error: File frostel.dat not found!"});
     QVERIFY(w->isVisible());
     w->findChild<QAction*>("start")->trigger();
     QVERIFY(w->game().g.Wort.isEmpty());
     for (int i = 0; i < 26; ++i) QVERIFY(!w->game().board.alpha[i].Enabled);
-}
-
-void MainWindowTest::minimumSizeAndLayout()
-{
-    auto w = startWindow();
-    w->findChild<QAction*>("start")->trigger();
-    // The draw puts the word 50 twips right of where the layout will.
-    QCOMPARE(w->game().board.Feld[1].Left, 3725);
-    w->resize(w->width() + 1, w->height());
-    QTest::qWait(10);
-    w->resize(w->width() - 1, w->height());
-    QTest::qWait(10);
-    QCOMPARE(tw(w->frameGeometry().width()), 9600LL);
-    auto near = [](long long twips, int px) { return std::llabs(twips - px * 15LL) <= 8; };
-    QVERIFY(near(5760, w->pictureLabel(0)->x()));
-    QVERIFY(near(360, w->pictureLabel(0)->y()));
-    QVERIFY(near(8605, w->picBut(0)->x()));
-    QVERIFY(near(2160, w->picBut(2)->y()));
-    QVERIFY(near(300, w->letterPanel()->x()));
-    QVERIFY(near(4507, w->letterPanel()->y()));
-    QCOMPARE(w->game().board.Feld[1].Left, 3675);
-    QCOMPARE(w->game().board.Feld[5].Left, 5475);
-    QCOMPARE(w->game().board.Feld[1].Top, 3273);
-    QVERIFY(near(3675, w->fieldLabel(1)->x()));
-    QVERIFY(near(3273, w->fieldLabel(1)->y()));
-    QVERIFY(near(3802, w->picBut(3)->x()));
-    QVERIFY(near(4073, w->picBut(3)->y()));
-    // Smaller is not allowed; the scoreboard stays where it is.
-    w->resize(300, 200);
-    QTest::qWait(10);
-    QCOMPARE(tw(w->frameGeometry().width()), 9600LL);
-    QCOMPARE(tw(w->frameGeometry().height()), 6975LL);
-    QVERIFY(near(240, w->playerLabel(0)->x()));
-    QVERIFY(near(400, w->playerLabel(0)->y()));
+    // The name the word list fell back to is the one the options store.
+    support::onNextModal<assets::OptionsWindow>([](assets::OptionsWindow* o) { o->OK()->click(); });
+    w->findChild<QAction*>("opt")->trigger();
+    QVERIFY2(support::readAll(ini_).contains("Datei=frostel.dat\r\n"), support::readAll(ini_));
 }
 
 void MainWindowTest::commandsInEachPhase()
@@ -327,7 +194,7 @@ void MainWindowTest::commandsInEachPhase()
     QStringList texts;
     answerNextBox(QMessageBox::No, &texts);
     ende->trigger();
-    QCOMPARE(texts, QStringList{"Really end the game?"});
+    QCOMPARE(texts, QStringList{"Program end: Really end the game?"});
     QCOMPARE(exits_, 0);
     // Word under way, by the traffic light.
     QTest::mouseClick(static_cast<QAbstractButton*>(w->picBut(0)), Qt::LeftButton);
@@ -342,12 +209,12 @@ void MainWindowTest::commandsInEachPhase()
     // A second start asks; No leaves the word.
     answerNextBox(QMessageBox::No, &texts);
     start->trigger();
-    QCOMPARE(texts.last(), QString("Really start a new game?"));
+    QCOMPARE(texts.last(), QString("Start: Really start a new game?"));
     QCOMPARE(g.g.Wort, QString("APPLE"));
     // Solving holds the wait: weiter and its button come up; Enter ends it.
     bool heldSeen = false;
-    QTimer::singleShot(50, [&] {
-        heldSeen = weiter->isEnabled() && w->picBut(3)->isVisible();
+    whenHeld(w.get(), [&] {
+        heldSeen = w->picBut(3)->isVisible();
         QTest::keyClick(w.get(), Qt::Key_Return);
     });
     QTest::keyClick(w.get(), Qt::Key_L);
@@ -388,7 +255,7 @@ void MainWindowTest::motifChangeSwapsPictures()
     QCOMPARE(g.g.Wort, QString("APPLE"));
     // Also while the finished word waits: the picture changes, the wait goes on.
     bool stillHeld = false;
-    QTimer::singleShot(30, [&] {
+    whenHeld(w.get(), [&] {
         w->showOptions = [&] { g.g.MotivNr = 1; };
         w->opt_Click();
         stillHeld = w->findChild<QAction*>("weiter")->isEnabled() &&
@@ -406,7 +273,7 @@ void MainWindowTest::optionsChangeEndsTheWaitWithANewWord()
     auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
     core::Game& g = w->game();
     w->findChild<QAction*>("start")->trigger();
-    QTimer::singleShot(30, [&] {
+    whenHeld(w.get(), [&] {
         w->showOptions = [&] {
             g.g.WortDatei = "zoo.dat";
             g.g.EinstGeaendert = true;
@@ -424,21 +291,40 @@ void MainWindowTest::optionsChangeEndsTheWaitWithANewWord()
 void MainWindowTest::theRealOptionsWindow()
 {
     auto w = startWindow("[Einstellungen]\r\nSound= 0\r\nMotiv= 1\r\n");
+    QVERIFY(support::writeBytes("late.dat", "owl\r\n")); // the list is the folder at the start
     core::Game& g = w->game();
     w->findChild<QAction*>("start")->trigger();
     QTest::keyClick(w.get(), Qt::Key_Z);
-    // From the menu: the options window, where a double click on "Apple tree" closes it.
-    QString vocabulary;
+    // From the menu: the options window, centred, and the editor over it. A double click on
+    // "Apple tree" closes the options.
+    QString title;
+    QStringList rows; // the chosen one marked
+    QRect outer, editor;
+    auto framed = [](QWidget* w) {
+        static_cast<void>(QTest::qWaitFor([w] { return w->frameGeometry() != w->geometry(); }));
+        return w->frameGeometry();
+    };
     support::onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
-        vocabulary =
-            options->wortsch()->currentItem() ? options->wortsch()->currentItem()->text() : "";
+        for (int i = 0; i < options->wortsch()->count(); ++i)
+            rows << options->wortsch()->item(i)->text() +
+                        (i == options->wortsch()->currentRow() ? "*" : "");
+        title = support::shownTitle(options);
+        outer = framed(options);
+        support::onNextModal<assets::EditorWindow>([&](assets::EditorWindow* e) {
+            editor = framed(e);
+            e->Abbruch()->click();
+        });
+        options->EditButt()->click();
         QListWidget* motif = options->Motiv();
         const QPoint at = motif->visualItemRect(motif->item(0)).center();
         QTest::mouseClick(motif->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(motif->viewport(), Qt::LeftButton, {}, at);
     });
     w->findChild<QAction*>("opt")->trigger();
-    QCOMPARE(vocabulary, QString("frostel.dat"));
+    QCOMPARE(rows, QStringList({"frostel.dat*", "zoo.dat"}));
+    QCOMPARE(title, QString("Options"));
+    QCOMPARE(outer.topLeft(), centred(outer.size()));
+    QVERIFY((editor.center() - outer.center()).manhattanLength() <= 2);
     QCOMPARE(g.g.MotivNr, int16_t(0));
     // The word and its miss stay; the picture is the apple tree's now; the file has it all.
     QCOMPARE(g.g.Fehler, int16_t(1));
@@ -455,26 +341,16 @@ void MainWindowTest::closingDuringTheWaitEndsAtOnce()
     w->findChild<QAction*>("start")->trigger();
     QElapsedTimer clock;
     clock.start();
-    QTimer::singleShot(30, [&] { w->close(); });
+    whenHeld(w.get(), [&] { w->close(); });
     for (const char* k = "aple"; *k; ++k) QTest::keyClick(w.get(), *k);
     QVERIFY(clock.elapsed() < 5000);
     QCOMPARE(exits_, 1);
     QVERIFY(w->game().ended());
     QVERIFY(QFile::exists(ini_));
-}
-
-void MainWindowTest::unwritableSettingsFolder()
-{
-    QFile blocker(dir_.filePath("config"));
-    QVERIFY(blocker.open(QIODevice::WriteOnly)); // a file where the folder should be
-    blocker.close();
-    auto w = startWindow();
-    w->findChild<QAction*>("start")->trigger();
-    QTest::keyClick(w.get(), Qt::Key_A);
-    QCOMPARE(w->game().board.Feld[1].picture, 0);
-    w->close();
-    QCOMPARE(exits_, 1);
-    QFile::remove(dir_.filePath("config"));
+    // Every later wait and box returns at once.
+    w->toolkit().wait(30);
+    QCOMPARE(w->toolkit().msgBox("Really?", 36, "Frostel"), 7);
+    QVERIFY(clock.elapsed() < 5000);
 }
 
 QTEST_MAIN(MainWindowTest)

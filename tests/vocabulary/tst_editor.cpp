@@ -29,6 +29,17 @@ void type(QWidget* w, const QString& text)
         QTest::sendKeyEvent(QTest::Click, w, Qt::Key(c.toUpper().unicode()), QString(c), {});
 }
 
+// Counts the boxes that come while no editor stands.
+struct Toolkit : support::ScriptedToolkit {
+    int withoutEditor = 0;
+    int msgBox(const QString& text, int type, const QString& title) override
+    {
+        const auto* editor = qobject_cast<VocabularyEditor*>(QApplication::activeModalWidget());
+        withoutEditor += !(editor && editor->isVisible());
+        return ScriptedToolkit::msgBox(text, type, title);
+    }
+};
+
 void showAndActivate(QWidget* w)
 {
     w->show();
@@ -60,7 +71,7 @@ private:
     QString oldCwd_;
     core::Global g_;
     QStringList mainList_;
-    support::ScriptedToolkit tk_;
+    Toolkit tk_;
 };
 
 void EditorTest::init()
@@ -73,6 +84,7 @@ void EditorTest::init()
     mainList_ = {"leftover"};
     tk_.log.clear();
     tk_.answers.clear();
+    tk_.withoutEditor = 0;
 }
 
 std::unique_ptr<VocabularyEditor> EditorTest::shownOn(const QByteArray& bytes)
@@ -276,6 +288,7 @@ void EditorTest::closing()
     QCOMPARE(game.g.Geaendert, geaendert);
     boxes.replaceInStrings(QRegularExpression("^\\?$"), "box 36 " + wortDatei + ": Save changes?");
     QCOMPARE(tk_.boxes(), boxes);
+    QCOMPARE(tk_.withoutEditor, 0); // a failure to read the file is told over the editor
     // OK only hides the editor; Cancel and the close box unload it.
     auto* e = options.findChild<VocabularyEditor*>();
     QCOMPARE(e != nullptr, steps.last() == "ok");

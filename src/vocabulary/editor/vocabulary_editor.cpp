@@ -213,6 +213,10 @@ void showEditor(core::Game& game, core::Toolkit& toolkit, QWidget* parent)
             if (e->serves(game.g, toolkit)) editor = e;
     }
     if (!editor) editor = new VocabularyEditor(game.g, game.List1, toolkit, parent);
+    if (parent) assets::centreOnOwner(editor, parent);
+    // The editor stands before its list is read, so a failure to read is told over it.
+    editor->setWindowModality(Qt::ApplicationModal);
+    editor->show();
     editor->Form_Activate();
     // Cancel and the close box unload the window; OK only hides it.
     if (editor->exec() != QDialog::Accepted || !parent) delete editor;

@@ -1,0 +1,164 @@
+// The main window as a view of the game: its pictures, the fields of the word, the scoreboard.
+#include "mainwindow/main_window.h"
+
+#include "assets/picture_button.h"
+#include "assets/pictures.h"
+#include "assets/twips.h"
+#include "ui_eisfig.h"
+
+namespace mainwindow {
+namespace {
+
+long long tw(int pixels) { return (long long)pixels * 15; }
+
+QColor fromBgr(uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+} // namespace
+
+void MainWindow::loadPictures()
+{
+    const qreal dpr = devicePixelRatioF();
+    for (int i = 0; i < core::kTiles; ++i) {
+        tilePictures_[i] = assets::picture(QStringLiteral("alpha%1").arg(i), dpr);
+        alpha_[i]->setPixmap(tilePictures_[i]);
+        alpha_[i]->setCursor(Qt::PointingHandCursor);
+    }
+    covered_ = assets::picture(QStringLiteral("feld0"), dpr);
+    ui_->Feld_0->setPixmap(covered_);
+    ui_->Picture1->setPixmap(assets::picture(QStringLiteral("picture1"), dpr));
+    symbols_ = {assets::picture(QStringLiteral("symbol0"), dpr),
+                assets::picture(QStringLiteral("symbol1"), dpr)};
+    ui_->Symbol_0->setPixmap(symbols_[0]);
+    ui_->Symbol_1->setPixmap(symbols_[1]);
+    ui_->Punkt_0->setPixmap(assets::picture(QStringLiteral("punkt0"), dpr));
+    shownSymbol_.fill(-1);
+    shownSymbol_[0] = 1;
+    for (int i = 0; i < 3; ++i)
+        picButs_[i]->setPicture(assets::picture(QStringLiteral("picbut%1").arg(i), dpr));
+    QPalette pal = ui_->PicBut_3->palette();
+    pal.setColor(QPalette::Button, QColor(0, 128, 128));
+    pal.setColor(QPalette::ButtonText, Qt::white);
+    ui_->PicBut_3->setPalette(pal);
+    ui_->PicBut_3->setAutoFillBackground(true);
+}
+
+void MainWindow::syncFields()
+{
+    const auto& fields = game_.board.Feld;
+    for (size_t i = fields.size(); i < Feld_.size(); ++i) delete Feld_[i];
+    Feld_.resize(std::max<size_t>(1, std::min(Feld_.size(), fields.size())));
+    for (size_t i = 0; i < fields.size(); ++i) {
+        const core::Field& f = fields[i];
+        if (i > 0 && !f.loaded) {
+            if (i < Feld_.size() && Feld_[i]) {
+                delete Feld_[i];
+                Feld_[i] = nullptr;
+            }
+            continue;
+        }
+        if (i >= Feld_.size()) Feld_.resize(i + 1, nullptr);
+        QLabel*& label = Feld_[i];
+        if (!label) {
+            label = new QLabel(ui_->client);
+            label->resize(ui_->Feld_0->size());
+            label->setPixmap(covered_);
+            label->setProperty("picture", -1);
+        }
+        moveTwips(label, f.Left, f.Top);
+        if (label->property("picture").toInt() != f.picture) {
+            label->setPixmap(f.picture < 0 ? covered_ : tilePictures_[f.picture]);
+            label->setProperty("picture", f.picture);
+        }
+        label->setVisible(i > 0 && f.Visible);
+    }
+}
+
+void MainWindow::sync()
+{
+    if (unloaded_) return;
+    const core::Board& b = game_.board;
+    for (int i = 0; i < core::kTiles; ++i) {
+        alpha_[i]->setVisible(b.alpha[i].Visible);
+        alpha_[i]->setCursor(b.alpha[i].Enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
+    if (b.seriesMotif != shownSeries_ && b.seriesMotif >= 0) {
+        shownSeries_ = b.seriesMotif;
+        stageLoaded_.fill(false);
+    }
+    // Only the pictures on show are held: one stage or two, not twenty.
+    const QString stem =
+        shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
+    for (int s = 0; s < core::kStages; ++s) {
+        if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_ >= 0) {
+            B_Folge_[s]->setPixmap(assets::picture(stem.arg(s), devicePixelRatioF()));
+            stageLoaded_[s] = true;
+        } else if (!b.B_Folge_Visible[s] && stageLoaded_[s]) {
+            B_Folge_[s]->clear();
+            stageLoaded_[s] = false;
+        }
+    }
+    if (b.B_Folge0_Height != shownHeight_) {
+        B_Folge_[0]->resize(B_Folge_[1]->width(), assets::twipsToPixels(b.B_Folge0_Height));
+        shownHeight_ = b.B_Folge0_Height;
+    }
+    for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);
+
+    for (int i = 0; i < core::kPlayers; ++i) {
+        const core::PlayerLabel& p = b.Spieler[i];
+        if (!p.loaded) continue;
+        QLabel*& label = Spieler_[i];
+        if (!label) {
+            label = new QLabel(ui_->client);
+            label->setFont(ui_->Spieler_0->font());
+            label->setFrameStyle(ui_->Spieler_0->frameStyle());
+            label->setAlignment(ui_->Spieler_0->alignment());
+            label->setAutoFillBackground(true);
+            label->resize(ui_->Spieler_0->size());
+        }
+        moveTwips(label, p.Left, p.Top);
+        label->setText(p.Caption);
+        QPalette pal = label->palette();
+        pal.setColor(QPalette::Window, fromBgr(p.BackColor));
+        pal.setColor(QPalette::WindowText, fromBgr(p.ForeColor));
+        label->setPalette(pal);
+        label->setVisible(p.Visible);
+    }
+    for (int k = 0; k < core::kSymbols; ++k) {
+        const core::PointSymbol& s = b.Punkt[k];
+        if (!s.loaded) continue;
+        QLabel*& label = Punkt_[k];
+        if (!label) {
+            label = new QLabel(ui_->client);
+            label->resize(ui_->Punkt_0->size());
+        }
+        moveTwips(label, s.Left, s.Top);
+        if (shownSymbol_[k] != s.symbol) {
+            label->setPixmap(symbols_[s.symbol == 0 ? 0 : 1]);
+            shownSymbol_[k] = s.symbol;
+        }
+        label->setVisible(s.Visible);
+    }
+    syncFields();
+    ui_->tip->setEnabled(b.tip_Enabled);
+    ui_->weiter->setEnabled(b.weiter_Enabled);
+    for (int i = 0; i < 3; ++i) picButs_[i]->setVisible(b.PicBut_Visible[i]);
+    ui_->PicBut_3->setVisible(b.PicBut_Visible[3]);
+}
+
+// --- for tests --------------------------------------------------------------------------------
+
+Twips MainWindow::placeOf(const QWidget* w) const { return {tw(w->x()), tw(w->y())}; }
+
+QLabel* MainWindow::fieldLabel(int i) const
+{
+    return i >= 0 && size_t(i) < Feld_.size() ? Feld_[i] : nullptr;
+}
+
+QWidget* MainWindow::picBut(int i) const
+{
+    return i >= 0 && i < 3 ? static_cast<QWidget*>(picButs_[i]) : ui_->PicBut_3;
+}
+
+QWidget* MainWindow::letterPanel() const { return ui_->Picture1; }
+
+} // namespace mainwindow

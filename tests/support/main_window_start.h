@@ -1,0 +1,70 @@
+#pragma once
+// The real main window started as the program starts it, splash and all, in a working folder
+// with two word files and a settings file of the test's own.
+#include "mainwindow/main_window.h"
+#include "vocabulary/word_file.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cmath>
+#include <memory>
+
+namespace support {
+
+inline long long tw(int px) { return px * 15LL; }
+inline int px(long long twips) { return int(std::lround(twips / 15.0)); }
+
+// Where a window of that outer size stands centred: the differences in twips, halved.
+inline QPoint centred(QSize outer)
+{
+    const QSize s = QGuiApplication::primaryScreen()->geometry().size();
+    return {px((tw(s.width()) - tw(outer.width())) / 2),
+            px((tw(s.height()) - tw(outer.height())) / 2)};
+}
+
+class MainWindowStart {
+protected:
+    // frostel.dat holds "apple", zoo.dat "gnu"; no settings file.
+    bool enter()
+    {
+        oldCwd_ = QDir::currentPath();
+        if (!QDir::setCurrent(dir_.path())) return false;
+        for (const QString& f : QDir().entryList(QDir::Files)) QFile::remove(f);
+        ini_ = dir_.filePath("config/frostel.ini");
+        QDir(dir_.filePath("config")).removeRecursively();
+        exits_ = 0;
+        return !vocabulary::writeWordFile("frostel.dat", {"apple"}) &&
+               !vocabulary::writeWordFile("zoo.dat", {"gnu"});
+    }
+    void leave() { QDir::setCurrent(oldCwd_); }
+
+    std::unique_ptr<mainwindow::MainWindow> startWindow(const QByteArray& ini = {})
+    {
+        if (!ini.isNull()) {
+            QDir().mkpath(dir_.filePath("config"));
+            QFile f(ini_);
+            f.open(QIODevice::WriteOnly);
+            f.write(ini);
+        }
+        mainwindow::MainWindow::Setup setup;
+        setup.profilePath = ini_;
+        setup.splashMs = 1; // a splash all the same: it is the main window's first owned window
+        setup.exitProgram = [this](int) { ++exits_; };
+        auto w = std::make_unique<mainwindow::MainWindow>(setup);
+        w->toolkit().waitScale = 0.01;
+        w->Form_Load();
+        // Where there is a window manager, it has framed the window by then (else its place
+        // fails).
+        static_cast<void>(QTest::qWaitFor([&w] { return w->frameGeometry() != w->geometry(); }));
+        return w;
+    }
+
+    QTemporaryDir dir_;
+    QString oldCwd_, ini_;
+    int exits_ = 0;
+};
+
+} // namespace support
