@@ -117,7 +117,7 @@ private:
     int depth_ = 0;
     bool ended_ = false;
     bool holding_ = false;  // WeiterWarten holds the finished word
-    bool wordOpen_ = false; // the fields of a word stand and it is not yet decided
+    bool wordOpen_ = false; // the fields of a word stand and no guess has solved it
 };
 
 } // namespace core

@@ -70,7 +70,6 @@ void Game::wordSolved()
 void Game::miss()
 {
     ++g.Fehler;
-    if (g.Fehler == kLostAt) wordOpen_ = false;
     board.B_Folge_Visible[g.Fehler] = true;
     board.B_Folge_Visible[g.Fehler - 1] = false;
     serve();

@@ -54,7 +54,7 @@ const QString kHalf = QStringLiteral("wait 0.5");
 void Commands::atOddMoments_data()
 {
     QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("routine"); // what runs: keys, or S for the first start
+    QTest::addColumn<QString>("routine"); // what runs: keys, S start; a digit: points before
     QTest::addColumn<int>("wait");        // the wait of it the inputs come in; 0: the held wait
     QTest::addColumn<QString>("inputs");
     QTest::addColumn<QString>("answers"); // y or n for each question
@@ -63,71 +63,30 @@ void Commands::atOddMoments_data()
     QTest::addColumn<int>("misses");
     QTest::addColumn<int>("points");
     const QString lose = "abcdefghi", draw = "sound 0", half = kHalf;
+    // clang-format off
     // During a draw and a guess.
-    QTest::newRow("a key while the picture grows does nothing")
-        << "apple"
-        << "S" << 2 << "p"
-        << "" << QStringList{draw} << "_____" << 0 << 0;
-    QTest::newRow("a key before the fields stand does nothing")
-        << "apple"
-        << "S" << 9 << "p"
-        << "" << QStringList{draw} << "_____" << 0 << 0;
-    QTest::newRow("start during the draw asks once it stands")
-        << "apple"
-        << "S" << 1 << "S"
-        << "y" << QStringList{draw, "box", draw} << "_____" << 0 << 0;
-    QTest::newRow("tip during a miss") << "apple"
-                                       << "z" << 1 << "T"
-                                       << "" << QStringList{} << "A____" << 1 << 0;
-    QTest::newRow("start during a miss") << "apple"
-                                         << "z" << 1 << "S"
-                                         << "y" << QStringList{"box", draw} << "_____" << 0 << 0;
-    QTest::newRow("key during a miss") << "apple"
-                                       << "z" << 1 << "p"
-                                       << "" << QStringList{} << "_PP__" << 1 << 0;
+    QTest::newRow("a key while the picture grows does nothing")       << "apple" << "S" << 2 << "p" << "" << QStringList{draw} << "_____" << 0 << 0;
+    QTest::newRow("a key before the fields stand does nothing")       << "apple" << "S" << 9 << "p" << "" << QStringList{draw} << "_____" << 0 << 0;
+    QTest::newRow("a key during the draw of a new game does nothing") << "apple" << "zS" << 3 << "p" << "y" << QStringList{"box", draw} << "_____" << 0 << 0;
+    QTest::newRow("start during the draw asks once it stands")        << "apple" << "S" << 1 << "S" << "y" << QStringList{draw, "box", draw} << "_____" << 0 << 0;
+    QTest::newRow("tip during a miss")                                << "apple" << "z" << 1 << "T" << "" << QStringList{} << "A____" << 1 << 0;
+    QTest::newRow("start during a miss")                              << "apple" << "z" << 1 << "S" << "y" << QStringList{"box", draw} << "_____" << 0 << 0;
+    QTest::newRow("key during a miss")                                << "apple" << "z" << 1 << "p" << "" << QStringList{} << "_PP__" << 1 << 0;
     // Around the end of a word: one draw, whatever comes in whatever order.
-    QTest::newRow("lost: Enter and start in the loss's wait draw once")
-        << "ox" << lose << 9 << "\rS"
-        << "y" << QStringList{"box", draw} << "__" << 0 << 0;
-    QTest::newRow("solved: Enter and start in the jingle's wait draw once")
-        << "ox"
-        << "ox" << 1 << "\rS"
-        << "y" << QStringList{"box", half, draw} << "__" << 0 << 0;
-    QTest::newRow("solved: Enter and the options draw once")
-        << "ox"
-        << "ox" << 1 << "\rO"
-        << "" << QStringList{half, draw} << "___" << 0 << 0;
-    QTest::newRow("solved: after the options end the wait, start waits for the next word")
-        << "ox"
-        << "ox" << 1 << "OS"
-        << "y" << QStringList{half, draw, "box", draw} << "___" << 0 << 0;
-    QTest::newRow("a key in the half second after the wait is not played on the next word")
-        << "ox"
-        << "ox" << 2 << "o"
-        << "" << QStringList{"hold", half, draw} << "__" << 0 << 1;
-    QTest::newRow("Enter while the solution uncovers keeps the wait")
-        << "ox" << lose << 10 << "\r"
-        << "" << QStringList{"hold", draw} << "__" << 0 << 0;
+    QTest::newRow("lost: Enter and start in the loss's wait draw once")     << "ox" << lose << 9 << "\rS" << "y" << QStringList{"box", draw} << "__" << 0 << 0;
+    QTest::newRow("solved: Enter and start in the jingle's wait draw once") << "ox" << "ox" << 1 << "\rS" << "y" << QStringList{"box", half, draw} << "__" << 0 << 0;
+    QTest::newRow("solved: Enter and the options draw once")                << "ox" << "ox" << 1 << "\rO" << "" << QStringList{half, draw} << "___" << 0 << 0;
+    QTest::newRow("solved: once the options end the wait, start waits")     << "ox" << "ox" << 1 << "OS" << "y" << QStringList{half, draw, "box", draw} << "___" << 0 << 0;
+    QTest::newRow("a key in the half second after the wait is not played")  << "ox" << "ox" << 2 << "o" << "" << QStringList{"hold", half, draw} << "__" << 0 << 1;
+    QTest::newRow("a key in the half second after \"Once again?\" neither") << "ox" << "7ox" << 3 << "z" << "y" << QStringList{"box", half, draw} << "__" << 0 << 0;
+    QTest::newRow("Enter while the solution uncovers keeps the wait")       << "ox" << lose << 10 << "\r" << "" << QStringList{"hold", draw} << "__" << 0 << 0;
     // In the held wait itself.
-    QTest::newRow("held: start, yes")
-        << "ox"
-        << "ox" << 0 << "S"
-        << "y" << QStringList{"hold", "box", half, draw} << "__" << 0 << 0;
-    QTest::newRow("held: start, no, then the next word")
-        << "ox"
-        << "ox" << 0 << "S"
-        << "n" << QStringList{"hold", "box", "hold", half, draw} << "__" << 0 << 1;
-    QTest::newRow("held: options changed")
-        << "ox"
-        << "ox" << 0 << "O"
-        << "" << QStringList{"hold", half, draw} << "___" << 0 << 0;
-    QTest::newRow("held: end, no, then the next word")
-        << "ox"
-        << "ox" << 0 << "E"
-        << "n" << QStringList{"hold", "box", "hold", half, draw} << "__" << 0 << 1;
-    QTest::newRow("held: end, yes") << "ox"
-                                    << "ox" << 0 << "E"
-                                    << "y" << QStringList{"hold", "box", "end"} << "OX" << 0 << 1;
+    QTest::newRow("held: start, yes")                    << "ox" << "ox" << 0 << "S" << "y" << QStringList{"hold", "box", half, draw} << "__" << 0 << 0;
+    QTest::newRow("held: start, no, then the next word") << "ox" << "ox" << 0 << "S" << "n" << QStringList{"hold", "box", "hold", half, draw} << "__" << 0 << 1;
+    QTest::newRow("held: options changed")               << "ox" << "ox" << 0 << "O" << "" << QStringList{"hold", half, draw} << "___" << 0 << 0;
+    QTest::newRow("held: end, no, then the next word")   << "ox" << "ox" << 0 << "E" << "n" << QStringList{"hold", "box", "hold", half, draw} << "__" << 0 << 1;
+    QTest::newRow("held: end, yes")                      << "ox" << "ox" << 0 << "E" << "y" << QStringList{"hold", "box", "end"} << "OX" << 0 << 1;
+    // clang-format on
 }
 
 void Commands::atOddMoments()
@@ -142,10 +101,11 @@ void Commands::atOddMoments()
     QFETCH(int, misses);
     QFETCH(int, points);
     GameFixture f({word});
-    if (routine != "S") {
+    if (!routine.startsWith('S')) {
         f.game.start();
         f.tk.log.clear();
     }
+    if (routine[0].isDigit()) f.game.g.Punkte[0] = int16_t(routine[0].digitValue());
     for (const QChar a : answers)
         f.tk.answers.push_back(a == 'y' ? core::kAnswerYes : core::kAnswerNo);
     const auto arrive = [&] {
