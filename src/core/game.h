@@ -79,9 +79,6 @@ public:
     void Warten(double seconds);
     void WoerterLaden();
     void MotivSetzen();
-    // The scoreboard row of player i: its label, then its eight symbols.
-    void createPlayerLabel(int i);
-    void createPlayerSymbols(int i);
     // Cuts a caption to the label's width in steps of one character and a ".".
     QString shortenCaption(QString caption);
 
@@ -90,6 +87,9 @@ public:
     bool soundOn() const { return einst.Sound == 1; }
 
 private:
+    // The scoreboard row of player i: its label, then its eight symbols.
+    void createPlayerLabel(int i);
+    void createPlayerSymbols(int i);
     // A word now: the held guess's wait ends and it draws one, else one is drawn here.
     void nextWord();
     struct Ended {}; // unwinds a routine once the program has ended

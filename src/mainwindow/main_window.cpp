@@ -25,7 +25,6 @@ constexpr int kPicture1Width = 9000;
 int px(double twips) { return int(std::lround(twips / kTwipsPerPixel)); }
 long long tw(int pixels) { return (long long)pixels * 15; }
 
-const QString kWindow = QStringLiteral("Window");
 const QString kSettings = QStringLiteral("Einstellungen");
 
 } // namespace
@@ -124,15 +123,12 @@ void MainWindow::Form_Load()
             alpha_[i]->move(int(alpha_[i]->x() * factor), int(alpha_[i]->y() * factor));
     }
     B_Folge_[0]->resize(B_Folge_[1]->size());
-    restorePlace();
+    const int16_t state = restorePlace();
     presetOptions();
     readNames();
-    game_.MotivSetzen();
-    game_.board.B_Folge_Visible[0] = true;
-    game_.routine([this] { game_.NeuesSpiel(); });
+    game_.setUpBoard();
     Anordnen();
     sync();
-    const int16_t state = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
     if (state == 2) showMaximized();
     else if (state == 1) showMinimized();
     else show();
@@ -165,10 +161,7 @@ void MainWindow::readNames()
         const QString name =
             profile_.GetPrivateProfileString(kSettings, "Spieler" + n, "Spieler " + n, 25)
                 .trimmed();
-        game_.createPlayerLabel(i);
         if (!settings::isDefaultName(name)) game_.einst.Spieler_Name[i] = name;
-        game_.board.Spieler[i].Caption = game_.einst.Spieler_Name[i];
-        game_.createPlayerSymbols(i);
     }
 }
 

@@ -87,7 +87,8 @@ private:
 
     void command(const std::function<void()>& submit);
     void setCaptions();
-    void restorePlace();
+    // Place and size as stored; returns the stored state, which the show then sets.
+    int16_t restorePlace();
     void presetOptions();
     void readNames();
     void loadPictures();

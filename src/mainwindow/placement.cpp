@@ -18,14 +18,15 @@ const QString kWindow = QStringLiteral("Window");
 
 } // namespace
 
-void MainWindow::restorePlace()
+int16_t MainWindow::restorePlace()
 {
     // The splash, owned by this window, has made its native window already. Placed that way,
     // the window would take the stored corner for its client area's and come up a title bar
     // higher than it was left. Made anew when it shows, its frame goes where it is asked.
     if (testAttribute(Qt::WA_WState_Created)) destroy();
     // The state itself is set by the show: set before, it would make the window as well.
-    const bool maximized = profile_.GetPrivateProfileInt(kWindow, "Status", 0) == 2;
+    const int16_t state = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
+    const bool maximized = state == 2;
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     const long long screenW = tw(screen.width()), screenH = tw(screen.height());
     long long centreLeft = 0, centreTop = 0;
@@ -45,6 +46,7 @@ void MainWindow::restorePlace()
     if (top < 0 || top > screenH - h) top = centreTop;
     // Before the window is made, a move places the corner of its frame.
     if (!maximized) move(twipsToPixels(double(left)), twipsToPixels(double(top)));
+    return state;
 }
 
 void MainWindow::setOuterSize(int widthTwips, int heightTwips)
