@@ -3,10 +3,10 @@
 // deleted, Save; and the game's resident memory before and after the editor opened.
 // Prints: open add delete save (seconds) rss_before rss_open rss_end (MB). Run by
 // bench/editor.sh, which gives it an X server and the word files.
-#include "assets/options_window.h"
-#include "assets/pictures.h"
+#include "editor/vocabulary_editor.h"
 #include "mainwindow/main_window.h"
-#include "vocabulary/editor/vocabulary_editor.h"
+#include "platform/lean_style.h"
+#include "settings/options_window.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -22,9 +22,14 @@
 #include <malloc.h>
 #endif
 
-using vocabulary::editor::VocabularyEditor;
+using editor::VocabularyEditor;
 
 namespace {
+
+QPushButton* button(QWidget* window, const char* name)
+{
+    return window->findChild<QPushButton*>(QString::fromLatin1(name));
+}
 
 double rssMb()
 {
@@ -96,7 +101,7 @@ public:
 private:
     void inOptions()
     {
-        options_ = window_.findChild<assets::OptionsWindow*>();
+        options_ = window_.findChild<settings::OptionsWindow*>();
         if (!options_ || !options_->isVisible()) {
             QTimer::singleShot(50, &window_, [this] { inOptions(); });
             return;
@@ -121,17 +126,17 @@ private:
                 add();
             });
         clock_.start();
-        options_->EditButt()->click(); // returns once the editor has gone
-        QTimer::singleShot(0, options_->OK(), &QPushButton::click);
+        button(options_, "EditButt")->click(); // returns once the editor has gone
+        QTimer::singleShot(0, button(options_, "OK"), &QPushButton::click);
     }
 
     void add()
     {
         // A word that files in the middle of the list.
-        editor_->Text1()->setText(QStringLiteral("Mittelwort"));
+        editor_->findChild<QLineEdit*>("Text1")->setText(QStringLiteral("Mittelwort"));
         clock_.start();
-        editor_->Hinzuf()->click();
-        afterPaintOf(editor_->List1()->viewport(), [this] {
+        button(editor_, "Hinzuf")->click();
+        afterPaintOf(editor_->findChild<QListView*>("List1")->viewport(), [this] {
             f_.add = seconds();
             del();
         });
@@ -139,11 +144,11 @@ private:
 
     void del()
     {
-        QListView* list = editor_->List1();
+        QListView* list = editor_->findChild<QListView*>("List1");
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                           list->visualRect(list->indexAt(QPoint(4, 4))).center());
         clock_.start();
-        editor_->Loesch()->click();
+        button(editor_, "Loesch")->click();
         afterPaintOf(list->viewport(), [this] {
             f_.del = seconds();
             save();
@@ -153,18 +158,18 @@ private:
     void save()
     {
         clock_.start();
-        editor_->Speichern()->click();
+        button(editor_, "Speichern")->click();
         QTimer::singleShot(0, editor_, [this] {
             f_.save = seconds();
             f_.rssEnd = rssMb();
-            editor_->OK()->click(); // saved: no question
+            button(editor_, "OK")->click(); // saved: no question
         });
     }
 
     double seconds() const { return clock_.nsecsElapsed() / 1e9; }
 
     mainwindow::MainWindow& window_;
-    assets::OptionsWindow* options_ = nullptr;
+    settings::OptionsWindow* options_ = nullptr;
     VocabularyEditor* editor_ = nullptr;
     QElapsedTimer clock_;
     Figures f_;
@@ -175,7 +180,7 @@ private:
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    QApplication::setStyle(new assets::LeanStyle);
+    QApplication::setStyle(new platform::LeanStyle);
     mainwindow::MainWindow::Setup setup;
     setup.profilePath = QStringLiteral("frostel.ini");
     setup.splashMs = 0;

@@ -1,5 +1,5 @@
 #include "app/working_folder.h"
-#include "assets/pictures.h"
+#include "platform/lean_style.h"
 #include "mainwindow/main_window.h"
 
 #include <QApplication>
@@ -11,7 +11,7 @@
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    QApplication::setStyle(new assets::LeanStyle);
+    QApplication::setStyle(new platform::LeanStyle);
     // No display name: Qt would append it to every title the window manager shows.
     QApplication::setApplicationName(QStringLiteral("frostel32"));
     QApplication::setApplicationVersion(QStringLiteral("2.31"));

@@ -1,15 +1,13 @@
 // The main window as a view of the game: its pictures, the fields of the word, the scoreboard.
 #include "mainwindow/main_window.h"
 
-#include "assets/picture_button.h"
-#include "assets/pictures.h"
-#include "assets/twips.h"
+#include "widgets/picture_button.h"
+#include "widgets/pictures.h"
+#include "widgets/twips.h"
 #include "ui_eisfig.h"
 
 namespace mainwindow {
 namespace {
-
-long long tw(int pixels) { return (long long)pixels * 15; }
 
 QColor fromBgr(uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 
@@ -19,22 +17,22 @@ void MainWindow::loadPictures()
 {
     const qreal dpr = devicePixelRatioF();
     for (int i = 0; i < core::kTiles; ++i) {
-        tilePictures_[i] = assets::picture(QStringLiteral("alpha%1").arg(i), dpr);
+        tilePictures_[i] = widgets::picture(QStringLiteral("alpha%1").arg(i), dpr);
         alpha_[i]->setPixmap(tilePictures_[i]);
         alpha_[i]->setCursor(Qt::PointingHandCursor);
     }
-    covered_ = assets::picture(QStringLiteral("feld0"), dpr);
+    covered_ = widgets::picture(QStringLiteral("feld0"), dpr);
     ui_->Feld_0->setPixmap(covered_);
-    ui_->Picture1->setPixmap(assets::picture(QStringLiteral("picture1"), dpr));
-    symbols_ = {assets::picture(QStringLiteral("symbol0"), dpr),
-                assets::picture(QStringLiteral("symbol1"), dpr)};
+    ui_->Picture1->setPixmap(widgets::picture(QStringLiteral("picture1"), dpr));
+    symbols_ = {widgets::picture(QStringLiteral("symbol0"), dpr),
+                widgets::picture(QStringLiteral("symbol1"), dpr)};
     ui_->Symbol_0->setPixmap(symbols_[0]);
     ui_->Symbol_1->setPixmap(symbols_[1]);
-    ui_->Punkt_0->setPixmap(assets::picture(QStringLiteral("punkt0"), dpr));
+    ui_->Punkt_0->setPixmap(widgets::picture(QStringLiteral("punkt0"), dpr));
     shownSymbol_.fill(-1);
     shownSymbol_[0] = 1;
     for (int i = 0; i < 3; ++i)
-        picButs_[i]->setPicture(assets::picture(QStringLiteral("picbut%1").arg(i), dpr));
+        picButs_[i]->setPicture(widgets::picture(QStringLiteral("picbut%1").arg(i), dpr));
     QPalette pal = ui_->PicBut_3->palette();
     pal.setColor(QPalette::Button, QColor(0, 128, 128));
     pal.setColor(QPalette::ButtonText, Qt::white);
@@ -76,11 +74,26 @@ void MainWindow::syncFields()
 void MainWindow::sync()
 {
     if (unloaded_) return;
-    const core::Board& b = game_.board;
+    syncTiles();
+    syncSeries();
+    syncPlayers();
+    syncPoints();
+    syncFields();
+    syncCommands();
+}
+
+void MainWindow::syncTiles()
+{
     for (int i = 0; i < core::kTiles; ++i) {
-        alpha_[i]->setVisible(b.alpha[i].Visible);
-        alpha_[i]->setCursor(b.alpha[i].Enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        const core::Tile& t = game_.board.alpha[i];
+        alpha_[i]->setVisible(t.Visible);
+        alpha_[i]->setCursor(t.Enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
+}
+
+void MainWindow::syncSeries()
+{
+    const core::Board& b = game_.board;
     if (b.seriesMotif != shownSeries_ && b.seriesMotif >= 0) {
         shownSeries_ = b.seriesMotif;
         stageLoaded_.fill(false);
@@ -90,7 +103,7 @@ void MainWindow::sync()
         shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
     for (int s = 0; s < core::kStages; ++s) {
         if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_ >= 0) {
-            B_Folge_[s]->setPixmap(assets::picture(stem.arg(s), devicePixelRatioF()));
+            B_Folge_[s]->setPixmap(widgets::picture(stem.arg(s), devicePixelRatioF()));
             stageLoaded_[s] = true;
         } else if (!b.B_Folge_Visible[s] && stageLoaded_[s]) {
             B_Folge_[s]->clear();
@@ -98,13 +111,16 @@ void MainWindow::sync()
         }
     }
     if (b.B_Folge0_Height != shownHeight_) {
-        B_Folge_[0]->resize(B_Folge_[1]->width(), assets::twipsToPixels(b.B_Folge0_Height));
+        B_Folge_[0]->resize(B_Folge_[1]->width(), widgets::twipsToPixels(b.B_Folge0_Height));
         shownHeight_ = b.B_Folge0_Height;
     }
     for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);
+}
 
+void MainWindow::syncPlayers()
+{
     for (int i = 0; i < core::kPlayers; ++i) {
-        const core::PlayerLabel& p = b.Spieler[i];
+        const core::PlayerLabel& p = game_.board.Spieler[i];
         if (!p.loaded) continue;
         QLabel*& label = Spieler_[i];
         if (!label) {
@@ -123,8 +139,12 @@ void MainWindow::sync()
         label->setPalette(pal);
         label->setVisible(p.Visible);
     }
+}
+
+void MainWindow::syncPoints()
+{
     for (int k = 0; k < core::kSymbols; ++k) {
-        const core::PointSymbol& s = b.Punkt[k];
+        const core::PointSymbol& s = game_.board.Punkt[k];
         if (!s.loaded) continue;
         QLabel*& label = Punkt_[k];
         if (!label) {
@@ -138,16 +158,16 @@ void MainWindow::sync()
         }
         label->setVisible(s.Visible);
     }
-    syncFields();
+}
+
+void MainWindow::syncCommands()
+{
+    const core::Board& b = game_.board;
     ui_->tip->setEnabled(b.tip_Enabled);
     ui_->weiter->setEnabled(b.weiter_Enabled);
     for (int i = 0; i < 3; ++i) picButs_[i]->setVisible(b.PicBut_Visible[i]);
     ui_->PicBut_3->setVisible(b.PicBut_Visible[3]);
 }
-
-// --- for tests --------------------------------------------------------------------------------
-
-Twips MainWindow::placeOf(const QWidget* w) const { return {tw(w->x()), tw(w->y())}; }
 
 QLabel* MainWindow::fieldLabel(int i) const
 {
@@ -159,6 +179,36 @@ QWidget* MainWindow::picBut(int i) const
     return i >= 0 && i < 3 ? static_cast<QWidget*>(picButs_[i]) : ui_->PicBut_3;
 }
 
-QWidget* MainWindow::letterPanel() const { return ui_->Picture1; }
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (windowState() & Qt::WindowMinimized) return;
+    Anordnen();
+}
+
+void MainWindow::moveTwips(QWidget* w, long long left, long long top)
+{
+    w->move(widgets::twipsToPixels(double(left)), widgets::twipsToPixels(double(top)));
+}
+
+void MainWindow::Anordnen()
+{
+    fitFrame();
+    const QRect outer = frameGeometry();
+    const Layout l = mainwindow::Anordnen(widgets::pixelsToTwips(outer.width()),
+                                          widgets::pixelsToTwips(outer.height()),
+                                          game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
+    for (QLabel* b : B_Folge_) moveTwips(b, l.bFolge.left, l.bFolge.top);
+    for (int i = 0; i < 3; ++i) moveTwips(picButs_[i], l.picBut[i].left, l.picBut[i].top);
+    moveTwips(ui_->Picture1, l.picture1.left, l.picture1.top);
+    auto& fields = game_.board.Feld;
+    for (size_t i = 0; i < l.feld.size() && i < fields.size(); ++i) {
+        if (!fields[i].loaded) continue; // fields come and go while a word is drawn
+        fields[i].Left = int(l.feld[i].left);
+        fields[i].Top = int(l.feld[i].top);
+    }
+    moveTwips(ui_->PicBut_3, l.picBut3.left, l.picBut3.top);
+    syncFields();
+}
 
 } // namespace mainwindow

@@ -8,7 +8,6 @@ namespace {
 constexpr int kBFolgeTop = 360, kBFolgeWidth = 2400;
 constexpr int kPicButWidth = 550;
 constexpr int kPicButTops[3] = {480, 1320, 2160};
-constexpr int kPicture1Width = 9000;
 constexpr int kPicBut3Width = 1995;
 constexpr int kGapBelowWord = 350;
 

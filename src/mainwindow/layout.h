@@ -11,7 +11,10 @@ struct Twips {
     bool operator==(const Twips&) const = default;
 };
 
-constexpr int kMinWidth = 9600, kMinHeight = 6975;
+// The window's design size, frame included, which is also its smallest; and the letter
+// panel's design width.
+constexpr int kDesignWidth = 9600, kDesignHeight = 6975;
+constexpr int kPicture1Width = 9000;
 
 struct Layout {
     Twips bFolge;    // all ten pictures

@@ -1,14 +1,13 @@
 #include "mainwindow/main_window.h"
 
-#include "assets/info_window.h"
-#include "assets/options_window.h"
-#include "assets/picture_button.h"
-#include "assets/pictures.h"
+#include "about/info_window.h"
+#include "editor/vocabulary_editor.h"
 #include "mainwindow/help_window.h"
-#include "settings/options.h"
-#include "settings/options_dialog.h"
+#include "settings/options_window.h"
 #include "ui_eisfig.h"
-#include "vocabulary/editor/vocabulary_editor.h"
+#include "widgets/picture_button.h"
+#include "widgets/pictures.h"
+#include "widgets/twips.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -17,17 +16,6 @@
 #include <cmath>
 
 namespace mainwindow {
-namespace {
-
-constexpr double kTwipsPerPixel = 15.0;
-constexpr int kPicture1Width = 9000;
-
-int px(double twips) { return int(std::lround(twips / kTwipsPerPixel)); }
-long long tw(int pixels) { return (long long)pixels * 15; }
-
-const QString kSettings = QStringLiteral("Einstellungen");
-
-} // namespace
 
 MainWindow::MainWindow() : MainWindow(Setup{}) {}
 
@@ -36,17 +24,15 @@ MainWindow::MainWindow(Setup setup)
 {
     if (!setup_.exitProgram) setup_.exitProgram = [](int code) { QCoreApplication::exit(code); };
     ui_->setupUi(this);
-    setWindowIcon(assets::windowIcon());
+    setWindowIcon(widgets::windowIcon());
     QPalette pal = ui_->client->palette();
     pal.setColor(QPalette::Window, QColor(0, 0, 128));
     ui_->client->setPalette(pal);
     ui_->client->setAutoFillBackground(true);
     setMinimumSize(kDesignOuter.width(), kDesignOuter.height());
 
-    for (int i = 0; i < core::kTiles; ++i) {
+    for (int i = 0; i < core::kTiles; ++i)
         alpha_[i] = findChild<QLabel*>(QStringLiteral("alpha_%1").arg(i));
-        alpha_[i]->installEventFilter(this);
-    }
     for (int i = 0; i < core::kStages; ++i)
         B_Folge_[i] = findChild<QLabel*>(QStringLiteral("B_Folge_%1").arg(i));
     picButs_ = {ui_->PicBut_0, ui_->PicBut_1, ui_->PicBut_2};
@@ -57,13 +43,13 @@ MainWindow::MainWindow(Setup setup)
 
     tk_.setMainWindow(this);
     tk_.beforeEvents = [this] { sync(); };
-    tk_.onEnd = [this] { unloadMainWindow(); };
+    tk_.onEnd = [this] { close(); };
 
     // The options window loads at its first showing and then stays, hidden, as the place
     // where the player edits the live options.
-    options_ = new settings::OptionsDialog(game_, profile_, this);
+    options_ = new settings::OptionsHost(game_, profile_, this);
     options_->openEditor = [this] {
-        vocabulary::editor::showEditor(game_, tk_, options_->window());
+        editor::showEditor(game_, tk_, options_->window());
     };
     showOptions = [this] { options_->show(); };
 
@@ -89,6 +75,7 @@ MainWindow::MainWindow(Setup setup)
 MainWindow::~MainWindow()
 {
     qApp->removeEventFilter(this);
+    delete options_;
     tk_.beforeEvents = nullptr;
     tk_.onEnd = nullptr;
 }
@@ -113,10 +100,10 @@ void MainWindow::Form_Load()
 {
     setCaptions();
     // The about window, loaded as the splash, gives this window its title.
-    if (setup_.splashMs > 0) assets::InfoWindow::splash(this, setup_.splashMs);
-    else assets::InfoWindow load(this); // loaded and unloaded at once: the title only
+    if (setup_.splashMs > 0) about::InfoWindow::splash(this, setup_.splashMs);
+    else about::InfoWindow load(this); // loaded and unloaded at once: the title only
     // A panel that is not 9000 twips wide carries its tiles to scale.
-    const double panelWidth = tw(ui_->Picture1->width());
+    const double panelWidth = widgets::pixelsToTwips(ui_->Picture1->width());
     if (panelWidth != kPicture1Width) {
         const float factor = float(panelWidth / kPicture1Width);
         for (int i = 0; i < core::kLetters; ++i)
@@ -124,45 +111,21 @@ void MainWindow::Form_Load()
     }
     B_Folge_[0]->resize(B_Folge_[1]->size());
     const int16_t state = restorePlace();
-    presetOptions();
-    readNames();
+    // The options window loads after the counts and before the rest of the options.
+    settings::readCounts(profile_, game_.g);
+    options_->load();
+    settings::readChoices(profile_, game_.g, game_.einst);
+    settings::readNames(profile_, game_.einst);
     game_.setUpBoard();
     Anordnen();
     sync();
     if (state == 2) showMaximized();
     else if (state == 1) showMinimized();
     else show();
-    loaded_ = true;
     QTimer::singleShot(200, this, &MainWindow::fitFrame);
     // The word list comes last, so its message stands over the finished screen.
     game_.routine([this] { game_.WoerterLaden(); });
     sync();
-}
-
-void MainWindow::presetOptions()
-{
-    core::Global& g = game_.g;
-    g.AnzSpieler = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzahl", 4));
-    g.AnzTips = int16_t(profile_.GetPrivateProfileInt(kSettings, "Tips", 3));
-    // The options window loads here, after the counts and before the motif; its controls are
-    // made at its first showing, from what it loaded now.
-    options_->load();
-    g.MotivNr = int16_t(profile_.GetPrivateProfileInt(kSettings, "Motiv", 1));
-    const bool all = int16_t(profile_.GetPrivateProfileInt(kSettings, "Wiederholung", 1)) == -1;
-    game_.einst.wiederh = {all, !all};
-    game_.einst.Sound = int16_t(profile_.GetPrivateProfileInt(kSettings, "Sound", 1));
-    game_.einst.Anzeige = int16_t(profile_.GetPrivateProfileInt(kSettings, "Anzeige", 1));
-}
-
-void MainWindow::readNames()
-{
-    for (int i = 0; i < core::kPlayers; ++i) {
-        const QString n = QString::number(i + 1);
-        const QString name =
-            profile_.GetPrivateProfileString(kSettings, "Spieler" + n, "Spieler " + n, 25)
-                .trimmed();
-        if (!settings::isDefaultName(name)) game_.einst.Spieler_Name[i] = name;
-    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -170,8 +133,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     Form_Unload();
     event->accept();
 }
-
-void MainWindow::unloadMainWindow() { close(); }
 
 void MainWindow::Form_Unload()
 {
@@ -206,7 +167,7 @@ void MainWindow::opt_Click()
 
 void MainWindow::about_Click()
 {
-    command([this] { game_.run([this] { assets::InfoWindow::about(this); }); });
+    command([this] { game_.run([this] { about::InfoWindow::about(this); }); });
 }
 
 void MainWindow::hilfe_Click(int Index)
@@ -257,39 +218,6 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QMainWindow::eventFilter(watched, event);
-}
-
-// --- layout ---------------------------------------------------------------------------------
-
-void MainWindow::resizeEvent(QResizeEvent* event)
-{
-    QMainWindow::resizeEvent(event);
-    if (windowState() & Qt::WindowMinimized) return;
-    Anordnen();
-}
-
-void MainWindow::moveTwips(QWidget* w, long long left, long long top)
-{
-    w->move(px(double(left)), px(double(top)));
-}
-
-void MainWindow::Anordnen()
-{
-    fitFrame();
-    const QRect outer = frameGeometry();
-    const Layout l = mainwindow::Anordnen(double(tw(outer.width())), double(tw(outer.height())),
-                                          game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
-    for (QLabel* b : B_Folge_) moveTwips(b, l.bFolge.left, l.bFolge.top);
-    for (int i = 0; i < 3; ++i) moveTwips(picButs_[i], l.picBut[i].left, l.picBut[i].top);
-    moveTwips(ui_->Picture1, l.picture1.left, l.picture1.top);
-    auto& fields = game_.board.Feld;
-    for (size_t i = 0; i < l.feld.size() && i < fields.size(); ++i) {
-        if (!fields[i].loaded) continue; // fields come and go while a word is drawn
-        fields[i].Left = int(l.feld[i].left);
-        fields[i].Top = int(l.feld[i].top);
-    }
-    moveTwips(ui_->PicBut_3, l.picBut3.left, l.picBut3.top);
-    syncFields();
 }
 
 } // namespace mainwindow

@@ -1,10 +1,11 @@
 #pragma once
 // The main window: draws what the game holds, turns clicks, keys and menu entries into the
 // game's commands, keeps its controls in place, and starts and ends the program.
-#include "assets/qt_toolkit.h"
 #include "core/game.h"
+#include "platform/qt_toolkit.h"
 #include "mainwindow/layout.h"
 #include "settings/profile.h"
+#include "settings/stored_settings.h"
 
 #include <QMainWindow>
 #include <QPixmap>
@@ -17,11 +18,11 @@ class QLabel;
 namespace Ui {
 class eisfig;
 }
-namespace assets {
+namespace widgets {
 class PictureButton;
 }
 namespace settings {
-class OptionsDialog;
+class OptionsHost;
 }
 
 namespace mainwindow {
@@ -42,18 +43,12 @@ public:
     ~MainWindow() override;
 
     core::Game& game() { return game_; }
-    assets::QtToolkit& toolkit() { return tk_; }
-    settings::Profile& profile() { return profile_; }
+    platform::QtToolkit& toolkit() { return tk_; }
 
     // Start-up, once: captions, splash, place and size, options, scoreboard, motif, a new
     // game, layout, show, and last the word list.
     void Form_Load();
     void Anordnen();
-    void MotivSetzen()
-    {
-        game_.MotivSetzen();
-        sync();
-    }
     // Shows what the game holds now.
     void sync();
 
@@ -65,15 +60,13 @@ public:
     // Shows the options window modally; tests may put their own in its place.
     std::function<void()> showOptions;
 
-    // The places the layout gave, for tests: in twips.
-    Twips placeOf(const QWidget* w) const;
+    // For tests.
     QLabel* tileLabel(int i) const { return alpha_[i]; }
     QLabel* fieldLabel(int i) const;
     QLabel* pictureLabel(int i) const { return B_Folge_[i]; }
     QWidget* picBut(int i) const;
     QLabel* playerLabel(int i) const { return Spieler_[i]; }
     QLabel* pointLabel(int i) const { return Punkt_[i]; }
-    QWidget* letterPanel() const;
 
 protected:
     void resizeEvent(QResizeEvent* event) override; // Form_Resize
@@ -83,16 +76,20 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    static constexpr QSize kDesignOuter{640, 465}; // 9600 x 6975 twips, frame included
+    // The design size, frame included: the smallest the window gets.
+    static constexpr QSize kDesignOuter{kDesignWidth / 15, kDesignHeight / 15};
 
     void command(const std::function<void()>& submit);
     void setCaptions();
     // Place and size as stored; returns the stored state, which the show then sets.
     int16_t restorePlace();
-    void presetOptions();
-    void readNames();
     void loadPictures();
+    void syncTiles();
+    void syncSeries();
+    void syncPlayers();
+    void syncPoints();
     void syncFields();
+    void syncCommands();
     void setOuterSize(int widthTwips, int heightTwips);
     void fitFrame();
     void storePlace();
@@ -102,7 +99,7 @@ private:
 
     Setup setup_;
     std::unique_ptr<Ui::eisfig> ui_;
-    assets::QtToolkit tk_;
+    platform::QtToolkit tk_;
     core::Game game_{tk_};
     settings::Profile profile_;
 
@@ -110,7 +107,7 @@ private:
     std::array<QLabel*, core::kStages> B_Folge_{};
     std::array<QLabel*, core::kPlayers> Spieler_{};
     std::array<QLabel*, core::kSymbols> Punkt_{};
-    std::array<assets::PictureButton*, 3> picButs_{};
+    std::array<widgets::PictureButton*, 3> picButs_{};
     std::vector<QLabel*> Feld_; // Feld_[0] is the pattern
 
     std::array<QPixmap, 2> symbols_;
@@ -124,7 +121,7 @@ private:
     int shownHeight_ = -1;
 
     HelpWindow* help_ = nullptr;
-    settings::OptionsDialog* options_ = nullptr;
+    settings::OptionsHost* options_ = nullptr;
     QSize outerWanted_; // the outer size asked for, in pixels, until the frame is known
     QSize lastFrame_;
     bool unloaded_ = false;

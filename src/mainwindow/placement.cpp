@@ -2,7 +2,7 @@
 // them count the frame that a window manager puts around the window.
 #include "mainwindow/main_window.h"
 
-#include "assets/twips.h"
+#include "widgets/twips.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -10,11 +10,9 @@
 namespace mainwindow {
 namespace {
 
-using assets::twipsToPixels;
+using widgets::twipsToPixels;
 
-long long tw(int pixels) { return (long long)pixels * 15; }
-
-const QString kWindow = QStringLiteral("Window");
+long long tw(int pixels) { return (long long)widgets::pixelsToTwips(pixels); }
 
 } // namespace
 
@@ -25,8 +23,9 @@ int16_t MainWindow::restorePlace()
     // higher than it was left. Made anew when it shows, its frame goes where it is asked.
     if (testAttribute(Qt::WA_WState_Created)) destroy();
     // The state itself is set by the show: set before, it would make the window as well.
-    const int16_t state = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
-    const bool maximized = state == 2;
+    settings::WindowPlace place;
+    place.state = settings::readWindowState(profile_);
+    const bool maximized = place.state == 2;
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     const long long screenW = tw(screen.width()), screenH = tw(screen.height());
     long long centreLeft = 0, centreTop = 0;
@@ -34,11 +33,10 @@ int16_t MainWindow::restorePlace()
     if (!maximized) {
         centreLeft = core::idiv(double(screenW - tw(kDesignOuter.width())), 2);
         centreTop = core::idiv(double(screenH - tw(kDesignOuter.height())), 2);
-        left = profile_.GetPrivateProfileInt(kWindow, "Left", int(centreLeft));
-        top = profile_.GetPrivateProfileInt(kWindow, "Top", int(centreTop));
-        const int width = profile_.GetPrivateProfileInt(kWindow, "Width", 9600);
-        const int height = profile_.GetPrivateProfileInt(kWindow, "Height", 6900);
-        setOuterSize(width, height);
+        settings::readWindowPlace(profile_, place, centreLeft, centreTop);
+        left = place.left;
+        top = place.top;
+        setOuterSize(place.width, place.height);
     }
     // Off the screen, by the size the window has now: back to the centre.
     const long long w = tw(frameGeometry().width()), h = tw(frameGeometry().height());
@@ -46,7 +44,7 @@ int16_t MainWindow::restorePlace()
     if (top < 0 || top > screenH - h) top = centreTop;
     // Before the window is made, a move places the corner of its frame.
     if (!maximized) move(twipsToPixels(double(left)), twipsToPixels(double(top)));
-    return state;
+    return place.state;
 }
 
 void MainWindow::setOuterSize(int widthTwips, int heightTwips)
@@ -75,20 +73,18 @@ void MainWindow::storePlace()
 {
     // A window minimised from maximised is minimised: its place is kept, with state 1.
     const Qt::WindowStates state = windowState();
+    settings::WindowPlace place;
     if ((state & Qt::WindowMaximized) && !(state & Qt::WindowMinimized)) {
-        profile_.WritePrivateProfileString(kWindow, "Status", settings::numberForm(2));
-        return;
+        place.state = 2;
+    } else {
+        QRect r = frameGeometry();
+        // Minimised from the start, it is not fitted to its frame yet: it has the size asked for.
+        if (outerWanted_.isValid() && lastFrame_ != r.size() - geometry().size())
+            r.setSize(outerWanted_.expandedTo(kDesignOuter));
+        place = {int16_t((state & Qt::WindowMinimized) ? 1 : 0), tw(r.x()), tw(r.y()),
+                 int(tw(r.width())), int(tw(r.height()))};
     }
-    QRect r = frameGeometry();
-    // Minimised from the start, it is not fitted to its frame yet: it has the size asked for.
-    if (outerWanted_.isValid() && lastFrame_ != r.size() - geometry().size())
-        r.setSize(outerWanted_.expandedTo(kDesignOuter));
-    profile_.WritePrivateProfileString(kWindow, "Left", settings::numberForm(tw(r.x())));
-    profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
-    profile_.WritePrivateProfileString(kWindow, "Width", settings::numberForm(tw(r.width())));
-    profile_.WritePrivateProfileString(kWindow, "Height", settings::numberForm(tw(r.height())));
-    profile_.WritePrivateProfileString(kWindow, "Status",
-                                       settings::numberForm((state & Qt::WindowMinimized) ? 1 : 0));
+    settings::writeWindowPlace(profile_, place);
 }
 
 void MainWindow::moveEvent(QMoveEvent* event)

@@ -1,7 +1,6 @@
 #include "settings/options_rules.h"
 
-#include "settings/profile.h"
-
+#include <QDir>
 #include <algorithm>
 #include <limits>
 
@@ -59,20 +58,24 @@ bool restartsGame(OptionChange change)
     return false;
 }
 
-std::vector<std::pair<QString, QString>> storedOptions(const core::Global& g,
-                                                       const core::Options& einst)
+QStringList wordFileRows()
 {
-    std::vector<std::pair<QString, QString>> out;
-    out.emplace_back(QStringLiteral("Anzahl"), numberForm(g.AnzSpieler));
-    out.emplace_back(QStringLiteral("Sound"), numberForm(einst.Sound));
-    out.emplace_back(QStringLiteral("Anzeige"), numberForm(einst.Anzeige));
-    out.emplace_back(QStringLiteral("Wiederholung"), numberForm(einst.wiederh[0] ? -1 : 0));
-    out.emplace_back(QStringLiteral("Tips"), numberForm(g.AnzTips));
-    for (int i = 0; i < core::kPlayers; ++i)
-        out.emplace_back(QStringLiteral("Spieler%1").arg(i + 1), einst.Spieler_Name[i]);
-    out.emplace_back(QStringLiteral("Datei"), g.WortDatei);
-    out.emplace_back(QStringLiteral("Motiv"), numberForm(g.MotivNr));
-    return out;
+    // "*.dat" by hand: a name filter would load the regular-expression engine at start-up.
+    // Sorted without regard to case, as the list is matched.
+    QStringList rows;
+    const auto sort = QDir::Name | QDir::IgnoreCase;
+    for (const QString& name : QDir::current().entryList(QDir::Files | QDir::Readable, sort))
+        if (name.endsWith(QStringLiteral(".dat"), Qt::CaseInsensitive)) rows << name;
+    return rows;
+}
+
+QString chooseWordFile(const QString& stored, const QStringList& rows)
+{
+    if (rows.isEmpty()) return stored;
+    qsizetype index = 0;
+    for (qsizetype i = 0; i < rows.size(); ++i)
+        if (rows[i] == stored) index = i; // exact, case included
+    return rows[index];
 }
 
 } // namespace settings

@@ -1,12 +1,9 @@
 #pragma once
 // The rules behind the options window's handlers, apart from the window: the step of a
-// spin button, what a change means for the running game, and what OK stores.
-#include "core/state.h"
-
+// spin button, what a change means for the running game, which vocabulary the list offers.
 #include <QString>
+#include <QStringList>
 #include <optional>
-#include <utility>
-#include <vector>
 
 namespace settings {
 
@@ -45,8 +42,10 @@ enum class OptionChange {
 // read at each use.
 bool restartsGame(OptionChange change);
 
-// The eleven settings OK stores, as (key, text) in the order they are written.
-std::vector<std::pair<QString, QString>> storedOptions(const core::Global& g,
-                                                       const core::Options& einst);
+// The vocabulary files of the working folder: bare names of "*.dat", sorted by name.
+QStringList wordFileRows();
+// The row that names the stored file, else the first row; the stored name when there is
+// no row at all.
+QString chooseWordFile(const QString& stored, const QStringList& rows);
 
 } // namespace settings

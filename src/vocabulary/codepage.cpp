@@ -36,8 +36,6 @@ const Tables& tables()
 
 } // namespace
 
-QChar fromCp1252(unsigned char byte) { return QChar(tables().toUnicode[byte]); }
-
 QString decodeCp1252(QByteArrayView bytes)
 {
     const auto& t = tables().toUnicode;

@@ -5,9 +5,8 @@
 
 namespace vocabulary {
 
-// The character a byte stands for. Undefined bytes such as 0x81 map to the C1 control of
-// the same number, so every byte survives a round trip.
-QChar fromCp1252(unsigned char byte);
+// Undefined bytes such as 0x81 map to the C1 control of the same number, so every byte
+// survives a round trip.
 QString decodeCp1252(QByteArrayView bytes);
 // Characters that Windows-1252 cannot hold become '?'.
 QByteArray encodeCp1252(QStringView text);

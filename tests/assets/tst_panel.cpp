@@ -1,11 +1,11 @@
 // The frames of flat panels: where their lines run, in twips and on the screen.
-#include "assets/panel.h"
+#include "widgets/panel.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QTest>
 
-using assets::PanelLine;
+using widgets::PanelLine;
 
 class PanelTest : public QObject {
     Q_OBJECT
@@ -17,17 +17,17 @@ private slots:
 void PanelTest::lines()
 {
     // The raised frame around the names of the options window.
-    QCOMPARE(assets::RahmenObenLinks(200, 2100, 650, 2300, 1),
+    QCOMPARE(widgets::RahmenObenLinks(200, 2100, 650, 2300, 1),
              (std::vector<PanelLine>{{185, 635, 2315, 635}, {185, 635, 185, 2965}}));
-    QCOMPARE(assets::RahmenUntenRechts(200, 2100, 650, 2300, 1),
+    QCOMPARE(widgets::RahmenUntenRechts(200, 2100, 650, 2300, 1),
              (std::vector<PanelLine>{{185, 2950, 2300, 2950}, {2300, 635, 2300, 2965}}));
-    QCOMPARE(assets::RahmenObenLinks(200, 2100, 650, 2300, 1, 12)[0],
+    QCOMPARE(widgets::RahmenObenLinks(200, 2100, 650, 2300, 1, 12)[0],
              (PanelLine{188, 638, 2312, 638})); // another pixel size
-    QVERIFY(assets::RahmenUntenRechts(200, 2100, 650, 2300, 0).empty());
+    QVERIFY(widgets::RahmenUntenRechts(200, 2100, 650, 2300, 0).empty());
 
     // A second line lies one pixel further out.
-    const auto up2 = assets::RahmenObenLinks(100, 300, 100, 300, 2);
-    const auto low2 = assets::RahmenUntenRechts(100, 300, 100, 300, 2);
+    const auto up2 = widgets::RahmenObenLinks(100, 300, 100, 300, 2);
+    const auto low2 = widgets::RahmenUntenRechts(100, 300, 100, 300, 2);
     QCOMPARE(up2.size(), size_t(4));
     QCOMPARE(up2[2], (PanelLine{70, 70, 430, 70}));
     QCOMPARE(low2[2], (PanelLine{70, 415, 415, 415}));
@@ -38,13 +38,13 @@ void PanelTest::drawnPixels()
 {
     // A sunken frame around a control at (30, 30) px, 60 x 45 px.
     QImage img(120, 100, QImage::Format_RGB32);
-    img.fill(assets::QBColor(7));
+    img.fill(widgets::QBColor(7));
     QPainter p(&img);
-    assets::drawPanelLines(p, assets::RahmenObenLinks(450, 900, 450, 675, 1), 8);
-    assets::drawPanelLines(p, assets::RahmenUntenRechts(450, 900, 450, 675, 1), 15);
+    widgets::drawPanelLines(p, widgets::RahmenObenLinks(450, 900, 450, 675, 1), 8);
+    widgets::drawPanelLines(p, widgets::RahmenUntenRechts(450, 900, 450, 675, 1), 15);
     p.end();
-    const QRgb grey = assets::QBColor(8).rgb(), white = assets::QBColor(15).rgb(),
-               back = assets::QBColor(7).rgb();
+    const QRgb grey = widgets::QBColor(8).rgb(), white = widgets::QBColor(15).rgb(),
+               back = widgets::QBColor(7).rgb();
     QCOMPARE(img.pixel(29, 29), grey);  // top left corner, outside
     QCOMPARE(img.pixel(60, 29), grey);  // upper edge
     QCOMPARE(img.pixel(29, 60), grey);  // left edge

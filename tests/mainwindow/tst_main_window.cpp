@@ -1,12 +1,12 @@
 // The real main window, offscreen and under a window manager: start-up from the settings
 // file, titles, shutdown, commands in each phase, and the options window from its menu.
-#include "assets/editor_window.h"
-#include "assets/options_window.h"
-#include "assets/pictures.h"
+#include "editor/vocabulary_editor.h"
 #include "mainwindow/main_window.h"
+#include "settings/options_window.h"
 #include "support/files.h"
 #include "support/main_window_start.h"
 #include "support/modal.h"
+#include "widgets/pictures.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -49,7 +49,7 @@ void whenHeld(MainWindow* w, const std::function<void()>& act)
 
 bool samePicture(const QLabel* label, const QString& name)
 {
-    return label->pixmap().toImage() == assets::picture(name).toImage();
+    return label->pixmap().toImage() == widgets::picture(name).toImage();
 }
 
 } // namespace
@@ -171,7 +171,8 @@ void MainWindowTest::missingWordFileSaysSoOverTheWindow()
     QVERIFY(w->game().g.Wort.isEmpty());
     for (int i = 0; i < 26; ++i) QVERIFY(!w->game().board.alpha[i].Enabled);
     // The name the word list fell back to is the one the options store.
-    support::onNextModal<assets::OptionsWindow>([](assets::OptionsWindow* o) { o->OK()->click(); });
+    support::onNextModal<settings::OptionsWindow>(
+        [](settings::OptionsWindow* o) { support::child<QPushButton>(o, "OK")->click(); });
     w->findChild<QAction*>("opt")->trigger();
     QVERIFY2(support::readAll(ini_).contains("Datei=frostel.dat\r\n"), support::readAll(ini_));
 }
@@ -205,7 +206,7 @@ void MainWindowTest::commandsInEachPhase()
     QTest::mouseClick(w->tileLabel(0), Qt::LeftButton);
     QCOMPARE(w->game().board.Feld[1].picture, 0);
     QVERIFY(!w->tileLabel(0)->isVisible());
-    QVERIFY(w->fieldLabel(2)->pixmap().toImage() == assets::picture("alpha15").toImage());
+    QVERIFY(w->fieldLabel(2)->pixmap().toImage() == widgets::picture("alpha15").toImage());
     // A second start asks; No leaves the word.
     answerNextBox(QMessageBox::No, &texts);
     start->trigger();
@@ -304,17 +305,17 @@ void MainWindowTest::theRealOptionsWindow()
         static_cast<void>(QTest::qWaitFor([w] { return w->frameGeometry() != w->geometry(); }));
         return w->frameGeometry();
     };
-    support::onNextModal<assets::OptionsWindow>([&](assets::OptionsWindow* options) {
+    support::onNextModal<settings::OptionsWindow>([&](settings::OptionsWindow* options) {
         for (int i = 0; i < options->wortsch()->count(); ++i)
             rows << options->wortsch()->item(i)->text() +
                         (i == options->wortsch()->currentRow() ? "*" : "");
         title = support::shownTitle(options);
         outer = framed(options);
-        support::onNextModal<assets::EditorWindow>([&](assets::EditorWindow* e) {
+        support::onNextModal<editor::VocabularyEditor>([&](editor::VocabularyEditor* e) {
             editor = framed(e);
-            e->Abbruch()->click();
+            support::child<QPushButton>(e, "Abbruch")->click();
         });
-        options->EditButt()->click();
+        support::child<QPushButton>(options, "EditButt")->click();
         QListWidget* motif = options->Motiv();
         const QPoint at = motif->visualItemRect(motif->item(0)).center();
         QTest::mouseClick(motif->viewport(), Qt::LeftButton, {}, at);

@@ -134,7 +134,7 @@ void QtToolkitTest::messageBoxes()
 void QtToolkitTest::waitsSleep()
 {
     auto w = startWindow();
-    assets::QtToolkit& tk = w->toolkit();
+    platform::QtToolkit& tk = w->toolkit();
     // A plain wait of half a second.
     tk.waitScale = 1;
     double cpu = cpuSeconds();

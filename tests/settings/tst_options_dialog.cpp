@@ -1,8 +1,8 @@
 // The options window at work on the game's live options: spin steps and their repeat, what a
 // change means for a running game, what OK stores, the close box, the vocabulary list.
-#include "assets/options_window.h"
-#include "settings/options_dialog.h"
+#include "settings/options_window.h"
 #include "support/files.h"
+#include "support/modal.h"
 #include "support/scripted_toolkit.h"
 
 #include <QCheckBox>
@@ -19,7 +19,7 @@
 
 namespace {
 
-using W = assets::OptionsWindow;
+using W = settings::OptionsWindow;
 using Act = std::function<void(W*)>;
 
 // A working folder with word files, the game, and the window over both.
@@ -47,7 +47,7 @@ struct Fixture {
     support::ScriptedToolkit tk;
     core::Game game{tk};
     settings::Profile profile{iniPath};
-    settings::OptionsDialog dialog{game, profile};
+    settings::OptionsHost dialog{game, profile, nullptr};
 };
 
 // What the game holds of the options, in one line.
@@ -67,11 +67,12 @@ Act spin(int index, int at)
 }
 
 // As the system delivers it: a click, then the second press as a double click.
-Act dblClickRow(QListWidget* (W::*list)() const, int row)
+Act dblClickRow(const char* name, int row)
 {
     return [=](W* w) {
-        QWidget* port = (w->*list)()->viewport();
-        const QPoint at = (w->*list)()->visualItemRect((w->*list)()->item(row)).center();
+        auto* list = support::child<QListWidget>(w, name);
+        QWidget* port = list->viewport();
+        const QPoint at = list->visualItemRect(list->item(row)).center();
         QTest::mouseClick(port, Qt::LeftButton, {}, at);
         QTest::mouseDClick(port, Qt::LeftButton, {}, at);
     };
@@ -131,7 +132,11 @@ void OptionsDialogTest::holdingRepeatsDownToOne()
     Fixture f;
     W* w = f.shown();
     QLabel* plumin = w->plumin()[0];
-    auto face = [&](int i) { return plumin->pixmap().toImage() == w->s()[i]->pixmap().toImage(); };
+    auto face = [&](int i) {
+        const QString name = "s_" + QString::number(i);
+        return plumin->pixmap().toImage() ==
+               support::child<QLabel>(w, name.toLatin1())->pixmap().toImage();
+    };
     // The players' caption and which name boxes are enabled.
     auto state = [w] {
         QString s = w->Zahl()[0]->text() + ' ';
@@ -154,7 +159,8 @@ void OptionsDialogTest::holdingRepeatsDownToOne()
     w->repaint(); // a repaint leaves the held face
     QVERIFY(face(2));
     QTest::mouseRelease(plumin, Qt::RightButton, {}, QPoint(2, 2));
-    QVERIFY(!w->Timer1()->isActive());
+    for (QTimer* t : w->findChildren<QTimer*>(Qt::FindDirectChildrenOnly))
+        QVERIFY(!t->isActive()); // the repeat has stopped
     QVERIFY(face(0));
 }
 
@@ -166,12 +172,14 @@ void OptionsDialogTest::changesThatRestartTheGame_data()
     auto row = [](const char* tag, const Act& act, const QString& after, bool restarts) {
         QTest::newRow(tag) << act << after << restarts;
     };
-    auto click = [](auto control) {
-        return Act([=](W* w) { QTest::mouseClick((w->*control)(), Qt::LeftButton); });
+    auto click = [](const char* control) {
+        return Act([=](W* w) { QTest::mouseClick(support::child(w, control), Qt::LeftButton); });
     };
     const Act rename = [](W* w) { QTest::keyClicks(w->Spieler_Name()[1], "X"); };
     const Act resize = [=](W* w) { rename(w), w->resize(w->size() + QSize(20, 20)); };
-    const Act repeat = [](W* w) { QTest::mouseClick(w->wiederh()[1], Qt::LeftButton); };
+    const Act repeat = [](W* w) {
+        QTest::mouseClick(support::child(w, "wiederh_1"), Qt::LeftButton);
+    };
     const Act motif = [](W* w) { w->Motiv()->setCurrentRow(0); };
     const QString names = " Marta,Helene,Matthis,Svenja", dat = " englisch.dat";
     const QString renamed = dat + " Marta,HeleneX,Matthis,Svenja";
@@ -181,9 +189,9 @@ void OptionsDialogTest::changesThatRestartTheGame_data()
     row("name", rename, "4 3 1 111" + renamed, true);
     row("repeat", repeat, "4 3 1 011" + dat + names, true);
     row("motif", motif, "4 3 0 111" + dat + names, false);
-    row("sound", click(&W::Sound), "4 3 1 101" + dat + names, false);
-    row("show solution", click(&W::Anzeige), "4 3 1 110" + dat + names, false);
-    row("editor", click(&W::EditButt), "4 3 1 111" + dat + names, false);
+    row("sound", click("Sound"), "4 3 1 101" + dat + names, false);
+    row("show solution", click("Anzeige"), "4 3 1 110" + dat + names, false);
+    row("editor", click("EditButt"), "4 3 1 111" + dat + names, false);
     row("name, then a resize", resize, "4 3 1 111" + renamed, false);
 }
 
@@ -201,7 +209,7 @@ void OptionsDialogTest::changesThatRestartTheGame()
     QCOMPARE(f.game.g.EinstGeaendert, restarts);
     const bool editor = QTest::currentDataTag() == QByteArray("editor");
     QCOMPARE(editorRuns, editor ? 1 : 0);
-    if (editor) QCOMPARE(w->focusWidget(), w->OK());
+    if (editor) QCOMPARE(w->focusWidget(), support::child(w, "OK"));
     QVERIFY(!QFile::exists(f.iniPath)); // only OK writes
 }
 
@@ -216,19 +224,19 @@ void OptionsDialogTest::closing_data()
                             "Spieler3=Matthis\r\nSpieler4=Disabled but kept\r\n";
     const QString kept = " Marta,Helene,Matthis,Disabled but kept";
     QTest::newRow("OK stores eleven keys in order")
-        << Act([](W* w) { QTest::mouseClick(w->OK(), Qt::LeftButton); })
+        << Act([](W* w) { QTest::mouseClick(support::child(w, "OK"), Qt::LeftButton); })
         << keys + "Datei=englisch.dat\r\nMotiv= 0\r\n"
         << "2 1 0 001 englisch.dat" + kept << false;
     QTest::newRow("double click, vocabulary")
-        << dblClickRow(&W::wortsch, 1) << keys + "Datei=tiere.dat\r\nMotiv= 0\r\n"
+        << dblClickRow("wortsch", 1) << keys + "Datei=tiere.dat\r\nMotiv= 0\r\n"
         << "2 1 0 001 tiere.dat" + kept << true;
     QTest::newRow("double click, motif")
-        << dblClickRow(&W::Motiv, 1) << keys + "Datei=englisch.dat\r\nMotiv= 1\r\n"
+        << dblClickRow("Motiv", 1) << keys + "Datei=englisch.dat\r\nMotiv= 1\r\n"
         << "2 1 1 001 englisch.dat" + kept << false;
     // Design values come back, but for the counts and the motif; the change still counts.
     QTest::newRow("the close box discards") << Act([](W* w) {
         QTest::keyClicks(w->Spieler_Name()[0], "Zed");
-        QTest::mouseClick(w->Anzeige(), Qt::LeftButton);
+        QTest::mouseClick(support::child(w, "Anzeige"), Qt::LeftButton);
         w->wortsch()->setCurrentRow(1);
         w->close();
     }) << QByteArray() << "2 1 0 111 englisch.dat Marta,Helene,Matthis,Svenja"

@@ -3,8 +3,9 @@
 // the word files the options offer.
 #include "../support/files.h"
 #include "../support/trap_folder.h"
-#include "settings/options.h"
+#include "settings/options_rules.h"
 #include "settings/profile.h"
+#include "settings/stored_settings.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -89,10 +90,16 @@ void ProfileTest::numbersNamesAndFiles()
     QCOMPARE(settings::numberForm(-345), "-345");
     QCOMPARE(settings::numberForm(1.5), " 1.5");
     // A stored name whose ninth character is 1 to 4 stands for the default name.
-    for (const char* name : {"Spieler 1", "Bartholo4mew"})
-        QVERIFY2(settings::isDefaultName(name), name);
-    for (const char* name : {"Spieler 0", "Spieler 5", "Spieler1"})
-        QVERIFY2(!settings::isDefaultName(name), name);
+    QTemporaryDir names;
+    settings::Profile profile(names.filePath("frostel.ini"));
+    const char* stored[] = {"Spieler 1", "Bartholo4mew", "Spieler 5", "Spieler1"};
+    for (int i = 0; i < 4; ++i)
+        profile.WritePrivateProfileString("Einstellungen", QString("Spieler%1").arg(i + 1),
+                                          stored[i]);
+    core::Options einst;
+    settings::readNames(profile, einst);
+    QCOMPARE(QStringList(einst.Spieler_Name.begin(), einst.Spieler_Name.end()),
+             (QStringList{"Marta", "Helene", "Spieler 5", "Spieler1"}));
     // The vocabulary list: the folder's "*.dat" files, sorted as they are matched: by name,
     // without regard to case.
     QTemporaryDir tmp;

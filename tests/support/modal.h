@@ -9,6 +9,14 @@
 
 namespace support {
 
+// The control of that name inside `window`; a missing one ends the test run.
+template <class T = QWidget> T* child(const QWidget* window, const char* name)
+{
+    T* found = window->findChild<T*>(QString::fromLatin1(name));
+    if (!found) qFatal("no control named %s", name);
+    return found;
+}
+
 // Runs `act` on the next modal window of type T once it shows; no such window within five
 // seconds fails the test.
 template <class T> void onNextModal(std::function<void(T*)> act)

@@ -1,8 +1,9 @@
 // The vocabulary editor: what the word box takes, loading, adding, deleting, saving, and
 // what OK, Cancel and the close box leave in the file, the game's list and the change flag.
+#include "editor/vocabulary_editor.h"
 #include "support/files.h"
+#include "support/modal.h"
 #include "support/scripted_toolkit.h"
-#include "vocabulary/editor/vocabulary_editor.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -18,9 +19,17 @@
 
 using support::readAll;
 using support::writeBytes;
-using vocabulary::editor::VocabularyEditor;
+using editor::VocabularyEditor;
 
 namespace {
+
+// The editor's controls, found by name in whatever holds the window.
+template <class E> QLineEdit* Text1(const E& e) { return support::child<QLineEdit>(&*e, "Text1"); }
+template <class E> QListView* List1(const E& e) { return support::child<QListView>(&*e, "List1"); }
+template <class E> QPushButton* button(const E& e, const char* name)
+{
+    return support::child<QPushButton>(&*e, name);
+}
 
 // Keys as a keyboard sends them, one character a key, beyond ASCII too.
 void type(QWidget* w, const QString& text)
@@ -99,7 +108,7 @@ std::unique_ptr<VocabularyEditor> EditorTest::shownOn(const QByteArray& bytes)
 void EditorTest::wordBox()
 {
     VocabularyEditor e(g_, mainList_, tk_);
-    QLineEdit* box = e.Text1();
+    QLineEdit* box = Text1(&e);
     type(box, "AbzÄöüß1 ,\"-'.éñÿ"); // letters and umlauts only
     QCOMPARE(box->text(), "AbzÄöü");
     box->setCursorPosition(0); // control keys pass, so Delete still deletes
@@ -144,7 +153,7 @@ void EditorTest::load()
     g_.WortDatei = wortDatei;
     g_.Geaendert = true;
     VocabularyEditor e(g_, mainList_, tk_);
-    qobject_cast<vocabulary::editor::SortedWords*>(e.List1()->model())->add("from before");
+    qobject_cast<editor::SortedWords*>(List1(&e)->model())->add("from before");
     e.Form_Activate();
     QCOMPARE(e.words(), list);
     QCOMPARE(tk_.boxes(), boxes);
@@ -171,15 +180,15 @@ void EditorTest::add()
     QFETCH(QString, typed);
     QFETCH(QStringList, list);
     auto e = shownOn("mouse\r\ncat\r\n");
-    e->Text1()->setFocus();
-    type(e->Text1(), typed);
-    QTest::keyClick(e->Text1(), Qt::Key_Return); // the default button
+    Text1(e)->setFocus();
+    type(Text1(e), typed);
+    QTest::keyClick(Text1(e), Qt::Key_Return); // the default button
     QCOMPARE(e->words(), list);
     for (int row = 0; row < list.size(); ++row) // every word has room for all its letters
-        QVERIFY(e->List1()->visualRect(e->List1()->model()->index(row, 0)).width() >=
-                e->List1()->fontMetrics().horizontalAdvance(list[row]));
-    QCOMPARE(e->Text1()->text(), QString());
-    QCOMPARE(QApplication::focusWidget(), e->Text1()); // ready for the next word
+        QVERIFY(List1(e)->visualRect(List1(e)->model()->index(row, 0)).width() >=
+                List1(e)->fontMetrics().horizontalAdvance(list[row]));
+    QCOMPARE(Text1(e)->text(), QString());
+    QCOMPARE(QApplication::focusWidget(), Text1(e)); // ready for the next word
     QVERIFY(g_.Geaendert);                             // also for an empty box, so OK will ask
     QCOMPARE(mainList_, QStringList{"leftover"});
     QCOMPARE(readAll("words.dat"), QByteArray("mouse\r\ncat\r\n"));
@@ -188,32 +197,32 @@ void EditorTest::add()
 void EditorTest::clickAndDelete()
 {
     auto e = shownOn("eel\r\ndog\r\ncat\r\nbee\r\nant\r\n");
-    QListView* list = e->List1();
+    QListView* list = List1(e);
     auto click = [&](int row, Qt::KeyboardModifiers mod = {}) {
         QTest::mouseClick(list->viewport(), Qt::LeftButton, mod,
                           list->visualRect(list->model()->index(row, 0)).center());
     };
     click(1);
-    QCOMPARE(e->Text1()->text(), QString("bee"));
-    QVERIFY(e->Loesch()->isEnabled());
+    QCOMPARE(Text1(e)->text(), QString("bee"));
+    QVERIFY(button(e, "Loesch")->isEnabled());
     QVERIFY(!g_.Geaendert);
     click(3, Qt::ControlModifier);
     click(4, Qt::ControlModifier);
-    e->Loesch()->click();
+    button(e, "Loesch")->click();
     QCOMPARE(e->words(), (QStringList{"ant", "cat"}));
-    QVERIFY(!e->Loesch()->isEnabled());
+    QVERIFY(!button(e, "Loesch")->isEnabled());
     QCOMPARE(QApplication::focusWidget(), list);
     QVERIFY(g_.Geaendert);
     // Focus on the box selects from its cursor to the end.
-    e->Text1()->setCursorPosition(1);
+    Text1(e)->setCursorPosition(1);
     QTest::keyClick(list, Qt::Key_Backtab);
-    QCOMPARE(e->Text1()->selectedText(), QString("el"));
+    QCOMPARE(Text1(e)->selectedText(), QString("el"));
     // The box keeps the last word clicked, so Add puts it back.
-    e->Hinzuf()->click();
+    button(e, "Hinzuf")->click();
     QCOMPARE(e->words(), (QStringList{"ant", "cat", "eel"}));
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {},
                        list->visualRect(list->model()->index(1, 0)).center());
-    QCOMPARE(e->Text1()->text(), QString("cat"));
+    QCOMPARE(Text1(e)->text(), QString("cat"));
 }
 
 void EditorTest::closing_data()
@@ -273,14 +282,14 @@ void EditorTest::closing()
     QTimer::singleShot(0, &options, [&] {
         auto* e = options.findChild<VocabularyEditor*>();
         for (const QString& step : steps) {
-            if (step == "add") type(e->Text1(), "Öl"), e->Hinzuf()->click();
-            if (step == "save") e->Speichern()->click();
-            if (step == "ok") e->OK()->click();
-            if (step == "cancel") e->Abbruch()->click();
+            if (step == "add") type(Text1(e), "Öl"), button(e, "Hinzuf")->click();
+            if (step == "save") button(e, "Speichern")->click();
+            if (step == "ok") button(e, "OK")->click();
+            if (step == "cancel") button(e, "Abbruch")->click();
             if (step == "close") e->close();
         }
     });
-    vocabulary::editor::showEditor(game, tk_, &options);
+    editor::showEditor(game, tk_, &options);
 
     QCOMPARE(readAll(wortDatei), file);
     QVERIFY(QDir("folder.dat/keep").exists());

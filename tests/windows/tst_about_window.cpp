@@ -1,6 +1,6 @@
 // The about window in its two uses, its load handler, and the text scrambler beside it.
-#include "assets/global.h"
-#include "assets/info_window.h"
+#include "about/verschluesseln.h"
+#include "about/info_window.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -16,7 +16,7 @@ int openInfoWindows()
 {
     int n = 0;
     for (QWidget* w : QApplication::topLevelWidgets())
-        if (qobject_cast<assets::InfoWindow*>(w)) ++n;
+        if (qobject_cast<about::InfoWindow*>(w)) ++n;
     return n;
 }
 
@@ -54,7 +54,7 @@ void AboutWindow::formLoadCentres()
 
     QMainWindow main;
     main.setWindowTitle("changed");
-    assets::InfoWindow info(&main);
+    about::InfoWindow info(&main);
     QCOMPARE(main.windowTitle(), QString("Frostel32 v2.31"));
     info.resize(size);
     info.Form_Load();
@@ -86,7 +86,7 @@ void AboutWindow::closing()
     bool seen = false, okShown = false, timerRuns = false;
     // A quarter into the splash, or well past the time a splash would have taken.
     QTimer::singleShot(splash ? splash / 4 : 600, [&] {
-        auto* info = qobject_cast<assets::InfoWindow*>(QApplication::activeModalWidget());
+        auto* info = qobject_cast<about::InfoWindow*>(QApplication::activeModalWidget());
         if (!info) return;
         seen = info->isVisible();
         okShown = info->OK()->isVisible();
@@ -104,8 +104,8 @@ void AboutWindow::closing()
     });
     QElapsedTimer clock;
     clock.start();
-    if (splash) assets::InfoWindow::splash(&main, splash);
-    else assets::InfoWindow::about(&main);
+    if (splash) about::InfoWindow::splash(&main, splash);
+    else about::InfoWindow::about(&main);
 
     QVERIFY(!hung);
     QVERIFY(seen);
@@ -144,9 +144,9 @@ void AboutWindow::verschluesseln()
     QFETCH(QString, key);
     QFETCH(QString, expected);
     QString t = text;
-    assets::Verschluesseln(t, key);
+    about::Verschluesseln(t, key);
     QCOMPARE(t, expected);
-    assets::Verschluesseln(t, key); // applied again it gives the text back
+    about::Verschluesseln(t, key); // applied again it gives the text back
     QCOMPARE(t, text);
 }
 

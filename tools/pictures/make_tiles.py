@@ -7,7 +7,7 @@ whole letter. Coordinates are tile pixels (25 x 30); stems sit on whole pixels s
 1x rendering stays sharp. "Mixed" colours are a checker dither laid over the pixels that
 lie wholly inside the coloured stroke, the way a 16-colour screen showed them.
 
-    python3 tools/pictures/make_tiles.py [OUTDIR]   (default: src/assets/pictures)
+    python3 tools/pictures/make_tiles.py [OUTDIR]   (default: src/widgets/pictures)
 """
 import math
 import os
@@ -298,7 +298,7 @@ def feld_svg():
 
 def main():
     here = os.path.dirname(os.path.abspath(__file__))
-    out = sys.argv[1] if len(sys.argv) > 1 else os.path.join(here, "..", "..", "src", "assets", "pictures")
+    out = sys.argv[1] if len(sys.argv) > 1 else os.path.join(here, "..", "..", "src", "widgets", "pictures")
     for i, (letter, make, colour) in enumerate(LETTERS):
         with open(os.path.join(out, f"alpha{i}.svg"), "w", encoding="utf-8") as f:
             f.write(tile_svg(letter, make(), colour))

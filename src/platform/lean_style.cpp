@@ -1,0 +1,23 @@
+#include "platform/lean_style.h"
+
+#include <QPainter>
+#include <QWidget>
+
+namespace platform {
+
+QIcon LeanStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                              const QWidget* widget) const
+{
+    if (icon != SP_ToolBarHorizontalExtensionButton)
+        return QProxyStyle::standardIcon(icon, option, widget);
+    QPixmap arrow(16, 16);
+    arrow.fill(Qt::transparent);
+    QPainter p(&arrow);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(widget ? widget->palette().color(QPalette::ButtonText) : Qt::black, 1.5));
+    for (int x : {4, 9})
+        p.drawPolyline(QPolygonF({QPointF(x, 4), QPointF(x + 4, 8), QPointF(x, 12)}));
+    return QIcon(arrow);
+}
+
+} // namespace platform
