@@ -48,7 +48,7 @@ void InfoWindow::Form_Load()
 {
     widgets::centreOnScreen(this);
     ui_->Label_0->setText(kProductText);
-    ui_->Label_3->setText(QStringLiteral("For more Information see README.TXT!"));
+    ui_->Label_3->setText(tr("For more Information see README.TXT!"));
     // The main window gets its title here and nowhere else.
     if (mainWindow_) mainWindow_->setWindowTitle(kProductText);
 }

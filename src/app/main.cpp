@@ -1,5 +1,6 @@
 #include "app/working_folder.h"
 #include "platform/lean_style.h"
+#include "platform/translations.h"
 #include "mainwindow/main_window.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("frostel32"));
     QApplication::setApplicationVersion(QStringLiteral("2.31"));
     QApplication::setDesktopFileName(QStringLiteral("net.frostel32.frostel32"));
+    platform::installTranslators();
     // Word files and sounds are found by bare name in the working folder.
     app::enterWorkingFolder();
     mainwindow::MainWindow window;

@@ -137,9 +137,9 @@ void Game::WoerterLaden()
     if (r.failure) {
         const QString text =
             r.failure->number == vocabulary::kFileNotFound
-                ? QStringLiteral("File ") + g.WortDatei + QStringLiteral(" not found!")
-                : r.failure->text;
-        box(text, kOkExclamation, QStringLiteral("Error"));
+                ? tr("File %1 not found!").arg(g.WortDatei)
+                : vocabulary::failureText(*r.failure);
+        box(text, kOkExclamation, tr("Error"));
     }
 }
 

@@ -175,8 +175,7 @@ void Game::unloadMainWindow()
 void Game::start_Click()
 {
     if (g.SpielLaeuft) {
-        if (box(QStringLiteral("Really start a new game?"), kYesNoQuestion,
-                QStringLiteral("Start")) != kAnswerYes)
+        if (box(tr("Really start a new game?"), kYesNoQuestion, tr("Start")) != kAnswerYes)
             return;
         NeuesSpiel();
     }
@@ -222,8 +221,7 @@ void Game::WeiterWarten()
 
 void Game::ende_Click()
 {
-    if (box(QStringLiteral("Really end the game?"), kYesNoQuestion,
-            QStringLiteral("Program end")) == kAnswerYes)
+    if (box(tr("Really end the game?"), kYesNoQuestion, tr("Program end")) == kAnswerYes)
         unloadMainWindow();
 }
 

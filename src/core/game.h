@@ -3,6 +3,7 @@
 #include "core/state.h"
 #include "core/toolkit.h"
 
+#include <QCoreApplication>
 #include <deque>
 #include <functional>
 
@@ -24,6 +25,8 @@ struct Command {
 };
 
 class Game {
+    Q_DECLARE_TR_FUNCTIONS(Game)
+
 public:
     explicit Game(Toolkit& toolkit);
     Game(const Game&) = delete;

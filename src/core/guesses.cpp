@@ -55,9 +55,8 @@ void Game::wordSolved()
             playSound(5);
             Warten(0.1);
         }
-        box(board.Spieler[p].Caption + QChar(13) + QStringLiteral("won!"), kOkExclamation,
-            QStringLiteral("Yippieh!"));
-        if (box(QStringLiteral("Once again?"), kYesNoQuestion, QString()) != kAnswerYes)
+        box(board.Spieler[p].Caption + QChar(13) + tr("won!"), kOkExclamation, tr("Yippieh!"));
+        if (box(tr("Once again?"), kYesNoQuestion, QString()) != kAnswerYes)
             unloadMainWindow();
         NeuesSpiel();
         newGame = true;

@@ -105,14 +105,14 @@ QString loadFailureText(const QString& fileName, const vocabulary::Failure& fail
 {
     if (failure.number == vocabulary::kFileNotFound)
         return QStringLiteral("Datei ") + fileName + QStringLiteral(" nicht gefunden!");
-    return failure.text;
+    return vocabulary::failureText(failure);
 }
 
 QString saveFailureText(const QString& fileName, const vocabulary::Failure& failure)
 {
     // Chr(13) breaks the line in the box; the writer left the old file as it was.
     return QStringLiteral("Datei ") + fileName + QStringLiteral(" nicht gespeichert!\r") +
-           failure.text;
+           vocabulary::failureText(failure);
 }
 
 QString errorTitle() { return QStringLiteral("Fehler!"); }

@@ -47,11 +47,11 @@ VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core:
 {
     ui_->setupUi(this);
     applyDesign();
-    setWindowTitle(g.WortDatei.isEmpty() ? QStringLiteral("Edit vocabulary...") : g.WortDatei);
-    ui_->Hinzuf->setText(QStringLiteral("&Add"));
-    ui_->Loesch->setText(QStringLiteral("&Delete"));
-    ui_->Speichern->setText(QStringLiteral("&Save"));
-    ui_->Abbruch->setText(QStringLiteral("&Cancel"));
+    setWindowTitle(g.WortDatei.isEmpty() ? tr("Edit vocabulary...") : g.WortDatei);
+    ui_->Hinzuf->setText(tr("&Add"));
+    ui_->Loesch->setText(tr("&Delete"));
+    ui_->Speichern->setText(tr("&Save"));
+    ui_->Abbruch->setText(tr("&Cancel"));
     ui_->Text1->installEventFilter(this);
     ui_->List1->setModel(words_);
     ui_->List1->setItemDelegate(rows_);
@@ -143,7 +143,7 @@ void VocabularyEditor::OK_Click()
 {
     mainList_ = words();
     if (g_.Geaendert &&
-        tk_.msgBox(QStringLiteral("Save changes?"), core::kYesNoQuestion, g_.WortDatei) ==
+        tk_.msgBox(tr("Save changes?"), core::kYesNoQuestion, g_.WortDatei) ==
             core::kAnswerYes &&
         !Speichern_Click())
         return; // stays open: the changes are still here to save elsewhere or drop

@@ -44,29 +44,29 @@ const QList<Page>& pages()
 
 HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window)
 {
-    setWindowTitle(QStringLiteral("Frostel32 Help"));
+    setWindowTitle(tr("Frostel32 Help"));
     resize(720, 560);
     auto* bar = new QToolBar(this);
-    auto* contents = bar->addAction(QStringLiteral("&Contents"));
-    auto* back = bar->addAction(QStringLiteral("&Back"));
-    auto* forward = bar->addAction(QStringLiteral("&Forward"));
-    auto* searchAction = bar->addAction(QStringLiteral("&Search"));
+    auto* contents = bar->addAction(tr("&Contents"));
+    auto* back = bar->addAction(tr("&Back"));
+    auto* forward = bar->addAction(tr("&Forward"));
+    auto* searchAction = bar->addAction(tr("&Search"));
     browser_ = new QTextBrowser(this);
     browser_->setSearchPaths({kPages});
     browser_->setOpenExternalLinks(false);
 
     searchPane_ = new QWidget(this);
     field_ = new QLineEdit(searchPane_);
-    field_->setPlaceholderText(QStringLiteral("Words to find"));
+    field_->setPlaceholderText(tr("Words to find"));
     field_->setClearButtonEnabled(true);
-    auto* go = new QPushButton(QStringLiteral("&Find"), searchPane_);
+    auto* go = new QPushButton(tr("&Find"), searchPane_);
     results_ = new QListWidget(searchPane_);
     auto* searchLayout = new QVBoxLayout(searchPane_);
     searchLayout->setContentsMargins(0, 0, 0, 0);
     auto* row = new QHBoxLayout;
     row->addWidget(field_);
     row->addWidget(go);
-    searchLayout->addWidget(new QLabel(QStringLiteral("Search all help pages:"), searchPane_));
+    searchLayout->addWidget(new QLabel(tr("Search all help pages:"), searchPane_));
     searchLayout->addLayout(row);
     searchLayout->addWidget(results_);
     searchPane_->hide();
@@ -144,7 +144,7 @@ void HelpWindow::runSearch()
         item->setData(Qt::UserRole, name);
     }
     if (hits.isEmpty()) {
-        auto* item = new QListWidgetItem(QStringLiteral("No page holds these words."), results_);
+        auto* item = new QListWidgetItem(tr("No page holds these words."), results_);
         item->setFlags(Qt::NoItemFlags);
     }
 }

@@ -84,16 +84,16 @@ MainWindow::~MainWindow()
 
 void MainWindow::setCaptions()
 {
-    ui_->spiel->setTitle(QStringLiteral("&Game"));
-    ui_->about->setText(QStringLiteral("&About..."));
-    ui_->ende->setText(QStringLiteral("&End"));
-    ui_->hilf->setTitle(QStringLiteral("&Help"));
-    ui_->hilfe_0->setText(QStringLiteral("&Help"));
-    ui_->hilfe_1->setText(QStringLiteral("&Search"));
-    ui_->hilfe_2->setText(QStringLiteral("Help &on Help"));
-    ui_->opt->setText(QStringLiteral("&Options..."));
-    ui_->weiter->setText(QStringLiteral("next &Word"));
-    ui_->PicBut_3->setText(QStringLiteral("next word"));
+    ui_->spiel->setTitle(tr("&Game"));
+    ui_->about->setText(tr("&About..."));
+    ui_->ende->setText(tr("&End"));
+    ui_->hilf->setTitle(tr("&Help"));
+    ui_->hilfe_0->setText(tr("&Help"));
+    ui_->hilfe_1->setText(tr("&Search"));
+    ui_->hilfe_2->setText(tr("Help &on Help"));
+    ui_->opt->setText(tr("&Options..."));
+    ui_->weiter->setText(tr("next &Word"));
+    ui_->PicBut_3->setText(tr("next word"));
 }
 
 void MainWindow::Form_Load()

@@ -45,19 +45,19 @@ OptionsWindow::OptionsWindow(core::Game& game, Profile& profile, const QStringLi
     timer1_ = new QTimer(this);
     timer1_->setInterval(200);
 
-    setWindowTitle(QStringLiteral("Options"));
-    ui_->Label_0->setText(QStringLiteral("&Players:"));
-    ui_->Label_1->setText(QStringLiteral("&Tips:"));
-    ui_->Label_2->setText(QStringLiteral("Names"));
-    ui_->Label_3->setText(QStringLiteral("Repeat"));
-    ui_->Anzeige->setText(QStringLiteral("s&how solution"));
+    setWindowTitle(tr("Options"));
+    ui_->Label_0->setText(tr("&Players:"));
+    ui_->Label_1->setText(tr("&Tips:"));
+    ui_->Label_2->setText(tr("Names"));
+    ui_->Label_3->setText(tr("Repeat"));
+    ui_->Anzeige->setText(tr("s&how solution"));
     ui_->Label1->setText(QStringLiteral(" "));
-    ui_->Label2->setText(QStringLiteral("&Vocabulary:"));
-    ui_->Label3->setText(QStringLiteral("&Picture:"));
-    ui_->Sound->setText(QStringLiteral("&soundeffects"));
-    ui_->wiederh_0->setText(QStringLiteral("&all words"));
-    ui_->wiederh_1->setText(QStringLiteral("&words not guessed"));
-    ui_->EditButt->setText(QStringLiteral("&Edit vocabulary"));
+    ui_->Label2->setText(tr("&Vocabulary:"));
+    ui_->Label3->setText(tr("&Picture:"));
+    ui_->Sound->setText(tr("&soundeffects"));
+    ui_->wiederh_0->setText(tr("&all words"));
+    ui_->wiederh_1->setText(tr("&words not guessed"));
+    ui_->EditButt->setText(tr("&Edit vocabulary"));
     widgets::centreOnScreen(this);
 
     Form_Load(rows);
@@ -112,7 +112,7 @@ void OptionsWindow::Form_Load(const QStringList& rows)
         list->setCurrentRow(index);
 
     QListWidget* motiv = ui_->Motiv;
-    motiv->addItems({QStringLiteral("Apple tree"), QStringLiteral("Frostel")});
+    motiv->addItems({tr("Apple tree"), tr("Frostel")});
     connect(motiv, &QListWidget::currentRowChanged, this, &OptionsWindow::Motiv_Click);
     connect(motiv, &QListWidget::itemDoubleClicked, this, [this, motiv](QListWidgetItem* item) {
         Motiv_Click(motiv->row(item));

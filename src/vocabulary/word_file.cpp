@@ -2,6 +2,7 @@
 
 #include "vocabulary/codepage.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,16 +17,21 @@ constexpr char kSharpS = char(0xDF); // "ß" in Windows-1252
 constexpr qsizetype kKeep = kMaxWordLength + 1;
 
 // The words the game's toolkit used for these failures.
-const Failure kPastEnd{62, QStringLiteral("Input past end of file")};
-const Failure kAccess{75, QStringLiteral("Path/File access error")};
-const Failure kPermission{70, QStringLiteral("Permission denied")};
-const Failure kDeviceIo{57, QStringLiteral("Device I/O error")};
-const Failure kPathNotFound{76, QStringLiteral("Path not found")};
-const Failure kDiskFull{61, QStringLiteral("Disk full")};
+const Failure kPastEnd{62, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Input past end of file"))};
+const Failure kAccess{75, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Path/File access error"))};
+const Failure kPermission{70, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Permission denied"))};
+const Failure kDeviceIo{57, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Device I/O error"))};
+const Failure kPathNotFound{76, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Path not found"))};
+const Failure kDiskFull{61, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Disk full"))};
 
 bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 
 } // namespace
+
+QString failureText(const Failure& failure)
+{
+    return QCoreApplication::translate("vocabulary", failure.text.toLatin1().constData());
+}
 
 void ItemReader::append(char c)
 {
@@ -122,7 +128,8 @@ ReadResult readWordFile(const QString& fileName)
     ReadResult r;
     const QFileInfo info(fileName);
     if (!info.exists()) {
-        r.failure = Failure{kFileNotFound, QStringLiteral("File not found")};
+        r.failure = Failure{kFileNotFound,
+                            QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "File not found"))};
         return r;
     }
     if (!info.isFile()) {

@@ -19,6 +19,8 @@ struct Failure {
     QString text;
     bool operator==(const Failure&) const = default;
 };
+// The failure's words in the player's language.
+QString failureText(const Failure& failure);
 
 // Splits bytes into items the way the game's sequential input reads them. Fed in chunks,
 // so a file of any size is read in bounded memory: an item longer than a word can be is
