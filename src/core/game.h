@@ -60,6 +60,8 @@ public:
     void routine(const std::function<void()>& body);
     bool busy() const { return depth_ > 0; }
     bool ended() const { return ended_; }
+    // The fields of a word stand and it takes letters.
+    bool wordOpen() const { return wordOpen_; }
     // The main window has gone: every routine stops at the next point it waits or serves.
     void programEnded();
 

@@ -6,21 +6,56 @@
 #include "widgets/twips.h"
 #include "ui_eisfig.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
+
 namespace mainwindow {
 namespace {
 
 QColor fromBgr(uint32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+// A tile is pressed like a button, and a screen reader can press it.
+class TileAccessible : public QAccessibleWidget {
+public:
+    explicit TileAccessible(QWidget* tile) : QAccessibleWidget(tile, QAccessible::Button) {}
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& action) override
+    {
+        if (action != pressAction()) return;
+        QMetaObject::invokeMethod(widget()->window(), "tileClicked", Qt::QueuedConnection,
+                                  Q_ARG(int, widget()->property("tile").toInt()));
+    }
+};
+
+// A new name is news to a screen reader: only a changed one is set.
+void setName(QWidget* widget, const QString& name)
+{
+    if (widget->accessibleName() != name) widget->setAccessibleName(name);
+}
+
+QAccessibleInterface* tileFactory(const QString& className, QObject* object)
+{
+    if (className != QLatin1String("QLabel") || !object->property("tile").isValid()) return nullptr;
+    return new TileAccessible(static_cast<QWidget*>(object));
+}
 
 } // namespace
 
 void MainWindow::loadPictures()
 {
     const qreal dpr = devicePixelRatioF();
+    // Before any tile is named: naming makes its interface.
+    static const bool factory = (QAccessible::installFactory(tileFactory), true);
+    Q_UNUSED(factory);
     for (int i = 0; i < core::kTiles; ++i) {
         tilePictures_[i] = widgets::picture(QStringLiteral("alpha%1").arg(i), dpr);
         alpha_[i]->setPixmap(tilePictures_[i]);
         alpha_[i]->setCursor(Qt::PointingHandCursor);
+        alpha_[i]->setProperty("tile", i);
+        alpha_[i]->setAccessibleName(Announcer::tileName(i));
     }
+    const QString names[3] = {tr("Start game"), tr("End game"), tr("Tip")};
+    for (int i = 0; i < 3; ++i) picButs_[i]->setAccessibleName(names[i]);
     covered_ = widgets::picture(QStringLiteral("feld0"), dpr);
     ui_->Feld_0->setPixmap(covered_);
     ui_->Picture1->setPixmap(widgets::picture(QStringLiteral("picture1"), dpr));
@@ -68,6 +103,10 @@ void MainWindow::syncFields()
             label->setProperty("picture", f.picture);
         }
         label->setVisible(i > 0 && f.Visible);
+        if (i > 0) {
+            const QChar shown = f.picture < 0 ? QChar(' ') : core::tileTag(f.picture);
+            setName(label, Announcer::fieldName(int(i), int(fields.size()) - 1, shown));
+        }
     }
 }
 
@@ -80,6 +119,19 @@ void MainWindow::sync()
     syncPoints();
     syncFields();
     syncCommands();
+    announce();
+}
+
+void MainWindow::announce()
+{
+    const Seen now = Announcer::look(game_);
+    // A screen reader hears the description of the board change, as a live region.
+    for (const QString& text : Announcer::changes(seen_, now, game_)) {
+        ui_->client->setAccessibleDescription(text);
+        QAccessibleEvent alert(ui_->client, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+    seen_ = now;
 }
 
 void MainWindow::syncTiles()
@@ -114,7 +166,10 @@ void MainWindow::syncSeries()
         B_Folge_[0]->resize(B_Folge_[1]->width(), widgets::twipsToPixels(b.B_Folge0_Height));
         shownHeight_ = b.B_Folge0_Height;
     }
-    for (int s = 0; s < core::kStages; ++s) B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);
+    for (int s = 0; s < core::kStages; ++s) {
+        B_Folge_[s]->setVisible(b.B_Folge_Visible[s]);
+        setName(B_Folge_[s], Announcer::pictureName(game_));
+    }
 }
 
 void MainWindow::syncPlayers()
@@ -133,6 +188,7 @@ void MainWindow::syncPlayers()
         }
         moveTwips(label, p.Left, p.Top);
         label->setText(p.Caption);
+        setName(label, Announcer::playerName(game_, i));
         QPalette pal = label->palette();
         pal.setColor(QPalette::Window, fromBgr(p.BackColor));
         pal.setColor(QPalette::WindowText, fromBgr(p.ForeColor));

@@ -188,14 +188,18 @@ void MainWindow::hilfe_Click(int Index)
     });
 }
 
+void MainWindow::tileClicked(int i)
+{
+    command([this, i] { game_.tile(i); });
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonRelease) {
         for (int i = 0; i < core::kLetters; ++i) {
             if (watched == alpha_[i]) {
                 auto* me = static_cast<QMouseEvent*>(event);
-                if (alpha_[i]->rect().contains(me->position().toPoint()))
-                    command([this, i] { game_.tile(i); });
+                if (alpha_[i]->rect().contains(me->position().toPoint())) tileClicked(i);
                 return true;
             }
         }

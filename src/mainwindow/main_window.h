@@ -3,6 +3,7 @@
 // game's commands, keeps its controls in place, and starts and ends the program.
 #include "core/game.h"
 #include "platform/qt_toolkit.h"
+#include "mainwindow/announcements.h"
 #include "mainwindow/layout.h"
 #include "settings/profile.h"
 #include "settings/stored_settings.h"
@@ -56,6 +57,8 @@ public:
     void about_Click();
     void hilfe_Click(int Index);
     void opt_Click();
+    // A tile pressed by a screen reader.
+    Q_INVOKABLE void tileClicked(int i);
 
     // Shows the options window modally; tests may put their own in its place.
     std::function<void()> showOptions;
@@ -90,6 +93,7 @@ private:
     void syncPoints();
     void syncFields();
     void syncCommands();
+    void announce();
     void setOuterSize(int widthTwips, int heightTwips);
     void fitFrame();
     void storePlace();
@@ -119,6 +123,7 @@ private:
     std::array<bool, core::kStages> stageLoaded_{};
     std::array<int, core::kSymbols> shownSymbol_{};
     int shownHeight_ = -1;
+    Seen seen_; // what a screen reader was last told of
 
     HelpWindow* help_ = nullptr;
     settings::OptionsHost* options_ = nullptr;

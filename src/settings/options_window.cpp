@@ -10,10 +10,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QTimer>
 #include <cmath>
 
@@ -95,7 +98,19 @@ void OptionsWindow::Form_Load(const QStringList& rows)
         game_.einst.Anzeige = on ? 1 : 0;
         changed(OptionChange::Anzeige);
     });
-    for (QLabel* spin : plumin_) spin->installEventFilter(this);
+    for (QLabel* spin : plumin_) {
+        spin->installEventFilter(this);
+        // Also by keyboard: the two counters are the last stops of the tab order, so the
+        // order of the other controls stays as it was.
+        spin->setFocusPolicy(Qt::StrongFocus);
+    }
+    setTabOrder(ui_->EditButt, plumin_[0]);
+    setTabOrder(plumin_[0], plumin_[1]);
+    // Qt puts stops added behind the last one at the front; the window still opens on the first
+    // name.
+    ui_->Spieler_Name_0->setFocus();
+    plumin_[0]->setAccessibleName(tr("Players"));
+    plumin_[1]->setAccessibleName(tr("Tips"));
     connect(timer1_, &QTimer::timeout, this, &OptionsWindow::Timer1_Timer);
     connect(ui_->OK, &QPushButton::clicked, this, &OptionsWindow::OK_Click);
     connect(ui_->EditButt, &QPushButton::clicked, this, &OptionsWindow::EditButt_Click);
@@ -165,6 +180,17 @@ bool OptionsWindow::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
         case QEvent::MouseButtonRelease: plumin_MouseUp(i); return true;
+        case QEvent::KeyPress: {
+            // Up and Down press the upper or the lower half of the spin button once.
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
+            const double at = key == Qt::Key_Up ? 0 : 300;
+            plumin_MouseDown(i, Qt::NoButton, 0, at, at);
+            plumin_MouseUp(i);
+            return true;
+        }
+        case QEvent::FocusIn:
+        case QEvent::FocusOut: update(); return false;
         default: return false;
         }
     }
@@ -187,6 +213,13 @@ void OptionsWindow::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     widgets::drawFrame(painter, kNamesFrame, true);
     widgets::drawFrame(painter, kRepeatFrame, true);
+    for (QLabel* spin : plumin_) {
+        if (!spin->hasFocus()) continue;
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.rect = spin->geometry().adjusted(-2, -2, 1, 1);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
 }
 
 void OptionsWindow::fitNumbers()
@@ -248,6 +281,7 @@ void OptionsWindow::Timer1_Timer()
 void OptionsWindow::Zahl_Change(int Index)
 {
     const int16_t n = int16_t(captionNumber(zahl_[Index]->text()));
+    plumin_[Index]->setAccessibleDescription(QString::number(n));
     if (Index == 0) {
         game_.g.AnzSpieler = n;
         // A disabled box keeps its name; OK stores it all the same.

@@ -42,8 +42,8 @@ const Control kControls[] = {
     {"Einst", "Label_3", "QLabel", 14}, {"Einst", "Label1", "QLabel", 15},
     {"Einst", "Label2", "QLabel", 16}, {"Einst", "wortsch", "QListWidget", 17},
     {"Einst", "Label3", "QLabel", 18}, {"Einst", "Motiv", "QListWidget", 19},
-    {"Einst", "EditButt", "QPushButton", 20}, {"Einst", "plumin_0", "QLabel", -1},
-    {"Einst", "plumin_1", "QLabel", -1}, {"Einst", "s_0", "QLabel", -1},
+    {"Einst", "EditButt", "QPushButton", 20}, {"Einst", "plumin_0", "QLabel", 21},
+    {"Einst", "plumin_1", "QLabel", 22}, {"Einst", "s_0", "QLabel", -1},
     {"Einst", "s_1", "QLabel", -1}, {"Einst", "s_2", "QLabel", -1},
 
     {"WEdit", "Text1", "QLineEdit", 0}, {"WEdit", "List1", "QListView", 1},
@@ -105,7 +105,11 @@ QWidget* client(QWidget* w)
     return c ? c : w;
 }
 
-bool takesFocus(const Control& c) { return c.tab >= 0 && QByteArray(c.kind) != "QLabel"; }
+// The spin buttons take the focus for the keyboard's Up and Down.
+bool takesFocus(const Control& c)
+{
+    return c.tab >= 0 && (QByteArray(c.kind) != "QLabel" || c.name.startsWith("plumin"));
+}
 
 // The controls that Tab visits, in the order of the table.
 QStringList tabOrderOf(const QString& window)
@@ -212,6 +216,8 @@ void WindowDefinitions::tabOrder()
     for (QWidget* c = w->nextInFocusChain(); c && c != w.get(); c = c->nextInFocusChain())
         if (c->parentWidget() == home && (c->focusPolicy() & Qt::TabFocus))
             chain << c->objectName();
+    // A chain is a ring: where it is cut does not matter.
+    while (!chain.isEmpty() && chain.first() != order.first()) chain.append(chain.takeFirst());
     QCOMPARE(chain, order);
     if (window == "eisfig") return; // its tab stops are hidden until a game starts
 

@@ -2,6 +2,77 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>New word: %1 letters</source>
+        <translation>Neues Wort: %1 Buchstaben</translation>
+    </message>
+    <message>
+        <source>No %1: stage %2 of %3</source>
+        <translation>Kein %1: Stufe %2 von %3</translation>
+    </message>
+    <message>
+        <source>Word lost</source>
+        <translation>Wort verloren</translation>
+    </message>
+    <message>
+        <source>The word was %1</source>
+        <translation>Das Wort war %1</translation>
+    </message>
+    <message>
+        <source>%1 uncovered</source>
+        <translation>%1 aufgedeckt</translation>
+    </message>
+    <message>
+        <source>Word solved: %1</source>
+        <translation>Wort erraten: %1</translation>
+    </message>
+    <message>
+        <source>%1 scores a point, %2 in all</source>
+        <translation>%1 bekommt einen Punkt, %2 insgesamt</translation>
+    </message>
+    <message>
+        <source>%1 has won!</source>
+        <translation>%1 hat gewonnen!</translation>
+    </message>
+    <message>
+        <source>%1&apos;s turn</source>
+        <translation>%1 ist dran</translation>
+    </message>
+    <message>
+        <source>Letter %1</source>
+        <translation>Buchstabe %1</translation>
+    </message>
+    <message>
+        <source>covered</source>
+        <translation>verdeckt</translation>
+    </message>
+    <message>
+        <source>Letter %1 of %2, %3</source>
+        <translation>Buchstabe %1 von %2, %3</translation>
+    </message>
+    <message>
+        <source>%1, points: %2</source>
+        <translation>%1, Punkte: %2</translation>
+    </message>
+    <message>
+        <source>, at turn</source>
+        <translation>, ist dran</translation>
+    </message>
+    <message>
+        <source>Apple tree</source>
+        <translation>Apfelbaum</translation>
+    </message>
+    <message>
+        <source>Frostel</source>
+        <translation>Frostel</translation>
+    </message>
+    <message>
+        <source>%1, stage %2 of %3</source>
+        <translation>%1, Stufe %2 von %3</translation>
+    </message>
+</context>
+<context>
     <name>Einst</name>
     <message>
         <source>&amp;OK</source>
@@ -231,6 +302,18 @@
         <source>next word</source>
         <translation>nächstes Wort</translation>
     </message>
+    <message>
+        <source>Start game</source>
+        <translation>Spiel starten</translation>
+    </message>
+    <message>
+        <source>End game</source>
+        <translation>Spiel beenden</translation>
+    </message>
+    <message>
+        <source>Tip</source>
+        <translation>Tipp</translation>
+    </message>
 </context>
 <context>
     <name>settings::OptionsWindow</name>
@@ -289,6 +372,14 @@
     <message>
         <source>Frostel</source>
         <translation>Frostel</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Tipps</translation>
     </message>
 </context>
 <context>

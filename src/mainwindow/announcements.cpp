@@ -1,0 +1,80 @@
+#include "mainwindow/announcements.h"
+
+namespace mainwindow {
+
+Seen Announcer::look(const core::Game& game)
+{
+    Seen s;
+    const auto& fields = game.board.Feld;
+    for (size_t i = 1; i < fields.size(); ++i) {
+        if (!fields[i].loaded) continue;
+        const int p = fields[i].picture;
+        s.shown += p < 0 ? QChar(' ') : core::tileTag(p);
+    }
+    s.word = s.shown.isEmpty() ? QString() : game.g.Wort;
+    for (int t = 0; t < core::kLetters; ++t)
+        if (!game.board.alpha[t].Visible && !game.g.Wort.contains(core::tileTag(t)))
+            s.missed += core::tileTag(t);
+    s.open = game.wordOpen();
+    s.fehler = game.g.Fehler;
+    s.turn = game.g.AktSpieler;
+    for (int i = 0; i < core::kPlayers; ++i) s.points[i] = game.g.Punkte[i];
+    return s;
+}
+
+QStringList Announcer::changes(const Seen& before, const Seen& after, const core::Game& game)
+{
+    QStringList out;
+    auto name = [&](int p) { return game.board.Spieler[p].Caption; };
+    const bool sameWord = !after.word.isEmpty() && after.word == before.word;
+    const bool whole = !after.shown.contains(' ') && before.shown.contains(' ');
+    // A word is news once it stands whole and takes letters.
+    if (after.open && (!before.open || after.word != before.word))
+        out << tr("New word: %1 letters").arg(after.shown.size());
+    // A guess shows in steps, so each part is judged by itself.
+    for (const QChar letter : after.missed)
+        if (sameWord && !before.missed.contains(letter))
+            out << tr("No %1: stage %2 of %3").arg(letter).arg(after.missed.size()).arg(core::kLostAt);
+    if (sameWord && after.fehler >= core::kLostAt) {
+        if (before.fehler < core::kLostAt) out << tr("Word lost");
+        if (whole) out << tr("The word was %1").arg(after.shown);
+    } else if (sameWord) {
+        QString uncovered;
+        for (const QChar letter : after.shown)
+            if (letter != ' ' && !before.shown.contains(letter) && !uncovered.contains(letter))
+                uncovered += letter;
+        for (const QChar letter : uncovered) out << tr("%1 uncovered").arg(letter);
+        if (whole) out << tr("Word solved: %1").arg(after.shown);
+    }
+    for (int p = 0; p < core::kPlayers; ++p) {
+        if (after.points[p] <= before.points[p]) continue;
+        out << tr("%1 scores a point, %2 in all").arg(name(p)).arg(after.points[p]);
+        if (after.points[p] == core::kPointsToWin) out << tr("%1 has won!").arg(name(p));
+    }
+    if (after.turn != before.turn) out << tr("%1's turn").arg(name(after.turn));
+    return out;
+}
+
+QString Announcer::tileName(int tile) { return tr("Letter %1").arg(core::tileTag(tile)); }
+
+QString Announcer::fieldName(int index, int letters, QChar shown)
+{
+    const QString what = shown == ' ' ? tr("covered") : QString(shown);
+    return tr("Letter %1 of %2, %3").arg(index).arg(letters).arg(what);
+}
+
+QString Announcer::playerName(const core::Game& game, int player)
+{
+    QString text =
+        tr("%1, points: %2").arg(game.board.Spieler[player].Caption).arg(game.g.Punkte[player]);
+    if (game.g.AktSpieler == player) text += tr(", at turn");
+    return text;
+}
+
+QString Announcer::pictureName(const core::Game& game)
+{
+    const QString motif = game.g.MotivNr == 0 ? tr("Apple tree") : tr("Frostel");
+    return tr("%1, stage %2 of %3").arg(motif).arg(game.g.Fehler).arg(core::kLostAt);
+}
+
+} // namespace mainwindow
