@@ -83,8 +83,12 @@ void MainWindow::storePlace()
     // Minimised from the start, it is not fitted to its frame yet: it has the size asked for.
     if (outerWanted_.isValid() && lastFrame_ != r.size() - geometry().size())
         r.setSize(outerWanted_.expandedTo(kDesignOuter));
-    profile_.WritePrivateProfileString(kWindow, "Left", settings::numberForm(tw(r.x())));
-    profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
+    // On Wayland the compositor places the window and Qt reports zeros: the stored place stays
+    // for the next start under X11.
+    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        profile_.WritePrivateProfileString(kWindow, "Left", settings::numberForm(tw(r.x())));
+        profile_.WritePrivateProfileString(kWindow, "Top", settings::numberForm(tw(r.y())));
+    }
     profile_.WritePrivateProfileString(kWindow, "Width", settings::numberForm(tw(r.width())));
     profile_.WritePrivateProfileString(kWindow, "Height", settings::numberForm(tw(r.height())));
     profile_.WritePrivateProfileString(kWindow, "Status",
