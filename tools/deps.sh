@@ -4,7 +4,8 @@ set -euo pipefail
 pkgs=(cmake ninja-build g++ pkg-config
       qt6-base-dev qt6-multimedia-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools
       libgl-dev libxcb1-dev libbenchmark-dev fonts-dejavu-core
-      xvfb xauth x11-utils xdotool openbox imagemagick sox appstream desktop-file-utils)
+      xvfb xauth x11-utils xdotool openbox imagemagick sox appstream desktop-file-utils
+      weston qt6-wayland dpkg-dev file lintian)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
