@@ -83,6 +83,9 @@ void MainWindow::storePlace()
             r.setSize(outerWanted_.expandedTo(kDesignOuter));
         place = {int16_t((state & Qt::WindowMinimized) ? 1 : 0), tw(r.x()), tw(r.y()),
                  int(tw(r.width())), int(tw(r.height()))};
+        // On Wayland the compositor places the window and Qt reports zeros: the stored place
+        // stays for the next start under X11.
+        place.placed = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
     }
     settings::writeWindowPlace(profile_, place);
 }

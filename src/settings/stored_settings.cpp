@@ -38,8 +38,10 @@ void readWindowPlace(const Profile& profile, WindowPlace& place, long long centr
 void writeWindowPlace(Profile& profile, const WindowPlace& place)
 {
     if (place.state != 2) {
-        write(profile, kWindow, QStringLiteral("Left"), double(place.left));
-        write(profile, kWindow, QStringLiteral("Top"), double(place.top));
+        if (place.placed) {
+            write(profile, kWindow, QStringLiteral("Left"), double(place.left));
+            write(profile, kWindow, QStringLiteral("Top"), double(place.top));
+        }
         write(profile, kWindow, QStringLiteral("Width"), place.width);
         write(profile, kWindow, QStringLiteral("Height"), place.height);
     }

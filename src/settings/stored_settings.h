@@ -11,6 +11,7 @@ struct WindowPlace {
     int16_t state = 0; // 0 normal, 1 minimised, 2 maximised
     long long left = 0, top = 0;
     int width = 9600, height = 6900;
+    bool placed = true; // false: the place is not the program's to know, and is not written
 };
 
 int16_t readWindowState(const Profile& profile);

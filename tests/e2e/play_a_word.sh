@@ -3,8 +3,10 @@
 # word to its end by keys, end the wait with Enter, quit through the menu, and check the
 # titles the window manager shows and what the settings file then holds.
 #   under_xvfb.sh with_openbox.sh play_a_word.sh FROSTEL32_BINARY
+#   under_xvfb.sh with_openbox.sh play_a_word.sh --installed   as the menu starts an installed game
 set -u
-bin=$(readlink -f "$1")
+bin=$1
+[ "$bin" = --installed ] || bin=$(readlink -f "$1")
 [ -n "${FROSTEL_XVFB:-}" ] || { echo "skipped: run it under under_xvfb.sh"; exit 77; }
 for tool in xdotool xprop; do
     command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
@@ -29,16 +31,26 @@ window() {
     echo "$w"
 }
 
-# A game folder of its own with a one-word vocabulary, so the word is known.
-mkdir -p "$work/game" "$work/home"
-cp "$bin" "$work/game/frostel32"
-cp "$(dirname "$bin")/frostel32-sound.so" "$work/game/" 2>/dev/null
-printf 'ox\r\n' > "$work/game/frostel.dat"
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/.config XDG_DATA_HOME=$work/home/.local/share
 export XDG_RUNTIME_DIR=$work/home/.runtime
 mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
-
-(cd "$work/game" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!
+# A vocabulary of one word, so the word is known: in a game folder of its own, or in the data
+# folder of a new player, where an installed game keeps it.
+if [ "$bin" = --installed ]; then
+    folder=$XDG_DATA_HOME/frostel32
+    mkdir -p "$folder"
+    printf 'ox\r\n' >"$folder/frostel.dat"
+    start=$(sed -n 's/^Exec=//p' /usr/share/applications/net.frostel32.frostel32.desktop)
+    (cd "$HOME" && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start) \
+        >"$work/game.log" 2>&1 & gpid=$!
+else
+    folder=$work/game
+    mkdir -p "$folder"
+    cp "$bin" "$(dirname "$bin")"/frostl*.wav "$folder/"
+    cp "$(dirname "$bin")/frostel32-sound.so" "$folder/" 2>/dev/null
+    printf 'ox\r\n' >"$folder/frostel.dat"
+    (cd "$folder" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!
+fi
 win=$(window "Frostel32 v2.31") || exit 1 # the splash comes first
 xdotool windowactivate --sync "$win" 2>/dev/null
 sleep 0.3
@@ -46,6 +58,8 @@ xdotool key --window "$win" ctrl+s
 sleep 2.5 # the picture grows, the fields are laid out
 xdotool type --delay 150 ox
 sleep 1.5
+# The sound of the draw has brought in the sound module.
+grep -q '/frostel32-sound.so$' /proc/$gpid/maps || fail "the sound module was not loaded"
 xdotool key Return # next word
 sleep 2.5
 xdotool key ctrl+e
@@ -64,4 +78,10 @@ done
 grep -q $'^Status= 0\r$' "$ini" || fail "Status not ' 0': $(cat -A "$ini")"
 grep -q $'^Width= 9600\r$' "$ini" || fail "Width not 9600 twips: $(cat -A "$ini")"
 grep -q 'Einstellungen' "$ini" && fail "options written without the options window"
+if [ "$bin" = --installed ]; then
+    [ "$(cat "$folder/frostel.dat")" = $'ox\r' ] || fail "the player's word file was replaced"
+    for f in /usr/share/games/frostel32/*; do
+        cmp -s "$f" "$folder/${f##*/}" || [ "${f##*/}" = frostel.dat ] || fail "no copy of $f"
+    done
+fi
 echo "1 passed, 0 failed"

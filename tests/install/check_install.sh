@@ -7,10 +7,11 @@ trap 'rm -rf "$prefix"' EXIT
 fail() { echo "FAIL: $*"; exit 1; }
 cmake --install "$1" --prefix "$prefix" >/dev/null || fail "cmake --install"
 id=net.frostel32.frostel32
-for f in bin/frostel32 share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
+for f in games/frostel32 share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
          share/icons/hicolor/scalable/apps/$id.svg share/icons/hicolor/32x32/apps/$id.png \
-         share/icons/hicolor/64x64/apps/$id.png share/frostel32/frostel.dat \
-         share/frostel32/frostl0.wav share/frostel32/frostl13.wav; do
+         share/icons/hicolor/64x64/apps/$id.png share/games/frostel32/frostel.dat \
+         share/games/frostel32/frostl0.wav share/games/frostel32/frostl13.wav \
+         share/man/man6/frostel32.6.gz share/doc/frostel32/copyright; do
     [ -s "$prefix/$f" ] || fail "$f not installed"
 done
 if command -v appstreamcli >/dev/null; then
@@ -21,9 +22,12 @@ if command -v desktop-file-validate >/dev/null; then
     out=$(desktop-file-validate "$prefix/share/applications/$id.desktop") || fail "$out"
     [ -z "$out" ] || fail "$out"
 fi
-# The program finds its sound module by a path relative to its own folder.
-rel=$(strings -el "$prefix/bin/frostel32" | grep -m1 '^/\.\..*/frostel32$')
-module="$prefix/bin$rel/frostel32-sound.so"
+# The program finds its data and its sound module by paths relative to its own folder.
+data=$(strings -el "$prefix/games/frostel32" | grep -m1 '^\.\./.*/frostel32$')
+[ -n "$data" ] && [ -s "$prefix/games/$data/frostel.dat" ] ||
+    fail "the word files are not where the program looks ($data)"
+rel=$(strings -el "$prefix/games/frostel32" | grep -m1 '^/\.\..*/frostel32$')
+module="$prefix/games$rel/frostel32-sound.so"
 [ -n "$rel" ] && [ -s "$module" ] || fail "the sound module is not where the program looks ($rel)"
 nm -D --defined-only "$module" | grep -q ' frostel32_create_sound_player$' \
     || fail "the sound module has no entry point"

@@ -26,23 +26,29 @@ private slots:
 void WindowPlaceTest::restartRestoresWhatWasStored()
 {
     const QRect moved(50, 40, 700, 495);
+    // Where the player cannot be moved by the program, the size is all that comes back.
+    auto placed = [](QWidget* w, QRect r) {
+        return support::onWayland() ? w->frameGeometry().size() == r.size()
+                                    : w->frameGeometry() == r;
+    };
     {
-        auto w = startWindow();
+        auto w = startWindow("[Window]\r\nLeft= 1500\r\nTop= 1200\r\n");
         QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
         w->move(moved.topLeft());
         w->resize(w->size() + QSize(60, 30));
-        QTRY_COMPARE(w->frameGeometry(), moved);
+        QTRY_VERIFY(placed(w.get(), moved));
         w->close();
         QCOMPARE(exits_, 1);
     }
-    // The place of the frame, which options never come with.
+    // The place of the frame, which options never come with; on Wayland the place read stays.
     const QByteArray ini = support::readAll(ini_);
-    QCOMPARE(ini, "[Window]\r\nLeft= 750\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7425\r\n"
-                  "Status= 0\r\n");
+    QCOMPARE(ini, QByteArray(support::onWayland() ? "[Window]\r\nLeft= 1500\r\nTop= 1200\r\n"
+                                                  : "[Window]\r\nLeft= 750\r\nTop= 600\r\n") +
+                      "Width= 10500\r\nHeight= 7425\r\nStatus= 0\r\n");
     // Every start comes up there again, and leaves the file as it was.
     for (int start = 0; start < 2; ++start) {
         auto w = startWindow();
-        QTRY_COMPARE(w->frameGeometry(), moved);
+        QTRY_VERIFY(placed(w.get(), moved));
         w->close();
         QCOMPARE(support::readAll(ini_), ini);
     }
@@ -81,10 +87,14 @@ void WindowPlaceTest::storedStateComesBack()
     const QRect r = w->frameGeometry();
     w->close();
     auto n = [](int px) { return settings::numberForm(double(tw(px))); };
+    // On Wayland the place of the rows' file stays.
+    const bool kept = support::onWayland();
     QCOMPARE(support::readAll(ini_),
-             end.isNull()
-                 ? ini
-                 : QString(end).arg(n(r.x()), n(r.y()), n(r.width()), n(r.height())).toLatin1());
+             end.isNull() ? ini
+                          : QString(end)
+                                .arg(kept ? " 900" : n(r.x()), kept ? " 600" : n(r.y()),
+                                     n(r.width()), n(r.height()))
+                                .toLatin1());
 }
 
 void WindowPlaceTest::screenBounds_data()
@@ -108,6 +118,7 @@ void WindowPlaceTest::screenBounds()
     QFETCH(int, top);
     QFETCH(bool, leftKept);
     QFETCH(bool, topKept);
+    if (support::onWayland()) QSKIP("the compositor places the window, on the screen");
     auto w = startWindow(
         QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
     const QPoint centre = centred({640, 465});

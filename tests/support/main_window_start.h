@@ -25,6 +25,9 @@ inline QPoint centred(QSize outer)
             px((tw(s.height()) - tw(outer.height())) / 2)};
 }
 
+// There the compositor places windows and a program never learns where.
+inline bool onWayland() { return QGuiApplication::platformName().startsWith("wayland"); }
+
 class MainWindowStart {
 protected:
     // frostel.dat holds "apple", zoo.dat "gnu"; no settings file.
