@@ -1,5 +1,6 @@
 // The files the game ships with: the sound effects and word files the build writes into
 // the game's folder, and the help pages built into the program.
+#include "mainwindow/help_window.h"
 #include "support/files.h"
 #include "vocabulary/englisch.h"
 #include "vocabulary/word_file.h"
@@ -103,17 +104,32 @@ private slots:
         }
     }
 
-    // Every link of every help page lands on a page and a place that exist, and every page
-    // can be reached from the contents.
+    // The help for each locale: the German pages when German, else the English ones. Each
+    // set has every page, every link of every page lands on a page and a place that exist,
+    // and every page can be reached from the contents.
+    void helpLinks_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("C") << QLocale::c() << ":/help/";
+        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedStates) << ":/help/";
+        QTest::newRow("French") << QLocale(QLocale::French) << ":/help/";
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << ":/help/de/";
+    }
+
     void helpLinks()
     {
-        const QStringList pages = QDir(QStringLiteral(":/help")).entryList({"*.html"}, QDir::Files);
+        QFETCH(QLocale, locale);
+        QFETCH(QString, folder);
+        QCOMPARE(mainwindow::helpFolder(locale), folder);
+        const QStringList pages = QDir(folder).entryList({"*.html"}, QDir::Files);
         QVERIFY(pages.size() >= 5);
-        const QStringList contents = linksOf(QStringLiteral(":/help/index.html")).hrefs;
+        QCOMPARE(pages, QDir(QStringLiteral(":/help")).entryList({"*.html"}, QDir::Files));
+        const QStringList contents = linksOf(folder + "index.html").hrefs;
         for (const QString& page : pages) {
             QVERIFY2(page == "index.html" || contents.contains(page), qPrintable(page));
-            const QUrl base(QStringLiteral("qrc:/help/") + page);
-            for (const QString& href : linksOf(QStringLiteral(":/help/") + page).hrefs) {
+            const QUrl base("qrc" + folder + page);
+            for (const QString& href : linksOf(folder + page).hrefs) {
                 const QUrl url(href);
                 const QString file = u':' + base.resolved(url).path();
                 QVERIFY2(url.scheme().isEmpty() && QFile::exists(file),
