@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QStandardPaths>
 
 namespace app {
@@ -20,12 +21,18 @@ QString enterWorkingFolder()
         QDir::setCurrent(installed.path()); // read-only, but the game plays
         return installed.path();
     }
-    const QStringList shipped =
-        installed.entryList({QStringLiteral("*.dat"), QStringLiteral("*.wav")}, QDir::Files);
-    for (const QString& name : shipped) {
-        const QString target = own + '/' + name;
-        if (!QFile::exists(target)) QFile::copy(installed.filePath(name), target);
-    }
+    // Word files in the player's language where there are such, sounds for everyone.
+    QDir words = installed;
+    if (QLocale().language() == QLocale::German && installed.exists(QStringLiteral("de")))
+        words.cd(QStringLiteral("de"));
+    const auto fill = [&own](const QDir& from, const QString& pattern) {
+        for (const QString& name : from.entryList({pattern}, QDir::Files)) {
+            const QString target = own + '/' + name;
+            if (!QFile::exists(target)) QFile::copy(from.filePath(name), target);
+        }
+    };
+    fill(words, QStringLiteral("*.dat"));
+    fill(installed, QStringLiteral("*.wav"));
     QDir::setCurrent(own);
     return own;
 }

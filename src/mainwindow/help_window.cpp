@@ -3,9 +3,11 @@
 #include <QDir>
 #include <QFile>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTextBrowser>
@@ -16,33 +18,37 @@
 namespace mainwindow {
 namespace {
 
-const QString kPages = QStringLiteral(":/help/");
-
 struct Page {
     QString name, title, text;
 };
 
-// The pages' plain text, read once: the search runs over it.
-const QList<Page>& pages()
+// The pages' plain text, read once a folder: the search runs over it.
+const QList<Page>& pages(const QString& folder)
 {
-    static const QList<Page> all = [] {
-        QList<Page> list;
-        for (const QString& name : QDir(kPages).entryList({"*.html"}, QDir::Files, QDir::Name)) {
-            QFile f(kPages + name);
-            if (!f.open(QIODevice::ReadOnly)) continue;
-            QTextDocument doc;
-            doc.setHtml(QString::fromUtf8(f.readAll()));
-            QString title = doc.metaInformation(QTextDocument::DocumentTitle);
-            list.append({name, title.isEmpty() ? name : title, doc.toPlainText()});
-        }
-        return list;
-    }();
-    return all;
+    static QHash<QString, QList<Page>> read;
+    if (const auto it = read.constFind(folder); it != read.cend()) return *it;
+    QList<Page>& list = read[folder];
+    for (const QString& name : QDir(folder).entryList({"*.html"}, QDir::Files, QDir::Name)) {
+        QFile f(folder + name);
+        if (!f.open(QIODevice::ReadOnly)) continue;
+        QTextDocument doc;
+        doc.setHtml(QString::fromUtf8(f.readAll()));
+        QString title = doc.metaInformation(QTextDocument::DocumentTitle);
+        list.append({name, title.isEmpty() ? name : title, doc.toPlainText()});
+    }
+    return list;
 }
 
 } // namespace
 
-HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window)
+QString helpFolder(const QLocale& locale)
+{
+    return locale.language() == QLocale::German ? QStringLiteral(":/help/de/")
+                                                : QStringLiteral(":/help/");
+}
+
+HelpWindow::HelpWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window), folder_(helpFolder(QLocale()))
 {
     setWindowTitle(tr("Frostel32 Help"));
     resize(720, 560);
@@ -52,7 +58,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window)
     auto* forward = bar->addAction(tr("&Forward"));
     auto* searchAction = bar->addAction(tr("&Search"));
     browser_ = new QTextBrowser(this);
-    browser_->setSearchPaths({kPages});
+    browser_->setSearchPaths({folder_});
     browser_->setOpenExternalLinks(false);
 
     searchPane_ = new QWidget(this);
@@ -127,7 +133,7 @@ QList<QPair<QString, QString>> HelpWindow::find(const QString& query) const
     const QStringList words = query.split(' ', Qt::SkipEmptyParts);
     QList<QPair<QString, QString>> hits;
     if (words.isEmpty()) return hits;
-    for (const Page& p : pages()) {
+    for (const Page& p : pages(folder_)) {
         bool all = true;
         for (const QString& w : words) all = all && p.text.contains(w, Qt::CaseInsensitive);
         if (all) hits.append({p.title, p.name});

@@ -4,11 +4,15 @@
 #include <QWidget>
 
 class QLineEdit;
+class QLocale;
 class QListWidget;
 class QTextBrowser;
 class QSplitter;
 
 namespace mainwindow {
+
+// The resource folder of the help pages for a locale: German pages for German, else English.
+QString helpFolder(const QLocale& locale);
 
 class HelpWindow : public QWidget {
     Q_OBJECT
@@ -31,6 +35,7 @@ private:
     void open(const QString& page);
     void runSearch();
 
+    const QString folder_;
     QTextBrowser* browser_;
     QLineEdit* field_;
     QListWidget* results_;

@@ -1,5 +1,6 @@
 // The files the game ships with: the sound effects and word files the build writes into
 // the game's folder, and the help pages built into the program.
+#include "mainwindow/help_window.h"
 #include "support/files.h"
 #include "vocabulary/englisch.h"
 #include "vocabulary/word_file.h"
@@ -84,32 +85,51 @@ private slots:
         QCOMPARE(vocabulary::readWordFile(QStringLiteral("frostel.dat")).words, builtin);
     }
 
-    // Every list in data/words ships as a .dat of the same words, sorted as the editor saves.
+    // Every list in data/words, and in data/words/de for the German set, ships as a .dat of
+    // the same words, sorted as the editor saves; a language's own frostel list keeps its order.
     void themedWordFiles()
     {
-        const QFileInfoList lists = QDir(QStringLiteral(WORD_LISTS_DIR))
-                                        .entryInfoList({QStringLiteral("*.txt")}, QDir::Files);
-        QVERIFY(lists.size() >= 3);
-        for (const QFileInfo& fi : lists) {
-            QStringList source;
-            for (const QString& line : QString::fromUtf8(readAll(fi.filePath())).split(u'\n'))
-                if (!line.trimmed().isEmpty()) source.append(line.trimmed());
-            source.sort(Qt::CaseInsensitive);
-            QCOMPARE(vocabulary::readWordFile(fi.completeBaseName() + ".dat").words, source);
+        for (const QString folder : {"", "de/"}) {
+            const QFileInfoList lists = QDir(QStringLiteral(WORD_LISTS_DIR "/") + folder)
+                                            .entryInfoList({QStringLiteral("*.txt")}, QDir::Files);
+            QVERIFY2(lists.size() >= 3, qPrintable(folder));
+            for (const QFileInfo& fi : lists) {
+                QStringList source;
+                for (const QString& line : QString::fromUtf8(readAll(fi.filePath())).split(u'\n'))
+                    if (!line.trimmed().isEmpty()) source.append(line.trimmed());
+                if (fi.completeBaseName() != "frostel") source.sort(Qt::CaseInsensitive);
+                const QString file = folder + fi.completeBaseName() + ".dat";
+                QCOMPARE(vocabulary::readWordFile(file).words, source);
+            }
         }
     }
 
-    // Every link of every help page lands on a page and a place that exist, and every page
-    // can be reached from the contents.
+    // The help for each locale: the German pages when German, else the English ones. Each
+    // set has every page, every link of every page lands on a page and a place that exist,
+    // and every page can be reached from the contents.
+    void helpLinks_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("C") << QLocale::c() << ":/help/";
+        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedStates) << ":/help/";
+        QTest::newRow("French") << QLocale(QLocale::French) << ":/help/";
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << ":/help/de/";
+    }
+
     void helpLinks()
     {
-        const QStringList pages = QDir(QStringLiteral(":/help")).entryList({"*.html"}, QDir::Files);
+        QFETCH(QLocale, locale);
+        QFETCH(QString, folder);
+        QCOMPARE(mainwindow::helpFolder(locale), folder);
+        const QStringList pages = QDir(folder).entryList({"*.html"}, QDir::Files);
         QVERIFY(pages.size() >= 5);
-        const QStringList contents = linksOf(QStringLiteral(":/help/index.html")).hrefs;
+        QCOMPARE(pages, QDir(QStringLiteral(":/help")).entryList({"*.html"}, QDir::Files));
+        const QStringList contents = linksOf(folder + "index.html").hrefs;
         for (const QString& page : pages) {
             QVERIFY2(page == "index.html" || contents.contains(page), qPrintable(page));
-            const QUrl base(QStringLiteral("qrc:/help/") + page);
-            for (const QString& href : linksOf(QStringLiteral(":/help/") + page).hrefs) {
+            const QUrl base("qrc" + folder + page);
+            for (const QString& href : linksOf(folder + page).hrefs) {
                 const QUrl url(href);
                 const QString file = u':' + base.resolved(url).path();
                 QVERIFY2(url.scheme().isEmpty() && QFile::exists(file),

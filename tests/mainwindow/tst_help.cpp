@@ -11,6 +11,7 @@ using mainwindow::HelpWindow;
 class HelpTest : public QObject {
     Q_OBJECT
 private slots:
+    void init() { QLocale::setDefault(QLocale(QLocale::English)); }
     void requests();
     void search_data();
     void search();
@@ -38,14 +39,20 @@ void HelpTest::search_data()
     QTest::addColumn<QString>("query");
     QTest::addColumn<QString>("page");
     QTest::addColumn<bool>("found");
+    QTest::addColumn<QLocale>("locale");
+    const QLocale en(QLocale::English), de(QLocale::German);
     QTest::newRow("one word") << "tip"
-                              << "play.html" << true;
+                              << "play.html" << true << en;
     QTest::newRow("any case") << "VOCABULARY"
-                              << "vocabulary.html" << true;
+                              << "vocabulary.html" << true << en;
     QTest::newRow("all words must stand") << "ctrl shortcut"
-                                          << "commands.html" << true;
+                                          << "commands.html" << true << en;
     QTest::newRow("nowhere") << "xylophonequartet"
-                             << "" << false;
+                             << "" << false << en;
+    QTest::newRow("German pages") << "schneemann schmilzt"
+                                  << "play.html" << true << de;
+    QTest::newRow("German pages only") << "vocabulary"
+                                       << "" << false << de;
 }
 
 void HelpTest::search()
@@ -53,6 +60,8 @@ void HelpTest::search()
     QFETCH(QString, query);
     QFETCH(QString, page);
     QFETCH(bool, found);
+    QFETCH(QLocale, locale);
+    QLocale::setDefault(locale);
     HelpWindow help;
     const auto hits = help.find(query);
     QCOMPARE(!hits.isEmpty(), found);

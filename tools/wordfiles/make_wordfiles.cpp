@@ -3,9 +3,11 @@
 //
 //   make_wordfiles OUT_DIR [LIST.txt ...]
 //
-// OUT_DIR/frostel.dat gets the built-in words in their fixed order. Each LIST.txt (UTF-8,
-// one word a line) becomes OUT_DIR/LIST.dat, sorted. A list with a word the game cannot
-// hold, or a word twice, fails the build rather than ship a file the game half reads.
+// OUT_DIR/frostel.dat gets the built-in words in their fixed order, or, for another
+// language, the words of a frostel.txt among the lists in that list's order. Each other
+// LIST.txt (UTF-8, one word a line) becomes OUT_DIR/LIST.dat, sorted. A list with a word the
+// game cannot hold, or a word twice, fails the build rather than ship a file the game half
+// reads.
 #include "vocabulary/englisch.h"
 #include "vocabulary/word_file.h"
 
@@ -79,17 +81,19 @@ int main(int argc, char** argv)
         return 1;
     }
 
-    QStringList builtin;
-    vocabulary::WortlisteFuellen(builtin);
-    if (!write(out.filePath(QStringLiteral("frostel.dat")), builtin)) return 1;
-
+    const QString frostel = QStringLiteral("frostel");
+    bool ownFrostel = false;
     for (int i = 2; i < argc; ++i) {
         const QString list = QString::fromLocal8Bit(argv[i]);
+        const QString base = QFileInfo(list).completeBaseName();
         QStringList words;
         if (!readList(list, words)) return 1;
-        words.sort(Qt::CaseInsensitive);
-        const QString name = QFileInfo(list).completeBaseName() + QStringLiteral(".dat");
-        if (!write(out.filePath(name), words)) return 1;
+        if (base == frostel) ownFrostel = true;
+        else words.sort(Qt::CaseInsensitive);
+        if (!write(out.filePath(base + QStringLiteral(".dat")), words)) return 1;
     }
-    return 0;
+    if (ownFrostel) return 0;
+    QStringList builtin;
+    vocabulary::WortlisteFuellen(builtin);
+    return write(out.filePath(frostel + QStringLiteral(".dat")), builtin) ? 0 : 1;
 }
