@@ -3,6 +3,7 @@
 #include "mainwindow/main_window.h"
 
 #include "assets/twips.h"
+#include "mainwindow/screen_fit.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -13,6 +14,13 @@ namespace {
 using assets::twipsToPixels;
 
 long long tw(int pixels) { return (long long)pixels * 15; }
+
+// The part of the screen that windows may take, without panels and docks.
+QRect available(const QScreen* screen)
+{
+    const QRect r = screen->availableGeometry();
+    return {int(tw(r.x())), int(tw(r.y())), int(tw(r.width())), int(tw(r.height()))};
+}
 
 const QString kWindow = QStringLiteral("Window");
 
@@ -26,34 +34,29 @@ int16_t MainWindow::restorePlace()
     if (testAttribute(Qt::WA_WState_Created)) destroy();
     // The state itself is set by the show: set before, it would make the window as well.
     const int16_t state = int16_t(profile_.GetPrivateProfileInt(kWindow, "Status", 0));
-    const bool maximized = state == 2;
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const long long screenW = tw(screen.width()), screenH = tw(screen.height());
-    long long centreLeft = 0, centreTop = 0;
-    long long left = tw(x()), top = tw(y());
-    if (!maximized) {
-        centreLeft = core::idiv(double(screenW - tw(kDesignOuter.width())), 2);
-        centreTop = core::idiv(double(screenH - tw(kDesignOuter.height())), 2);
-        left = profile_.GetPrivateProfileInt(kWindow, "Left", int(centreLeft));
-        top = profile_.GetPrivateProfileInt(kWindow, "Top", int(centreTop));
-        const int width = profile_.GetPrivateProfileInt(kWindow, "Width", 9600);
-        const int height = profile_.GetPrivateProfileInt(kWindow, "Height", 6900);
-        setOuterSize(width, height);
-    }
-    // Off the screen, by the size the window has now: back to the centre.
-    const long long w = tw(frameGeometry().width()), h = tw(frameGeometry().height());
-    if (left < 0 || left > screenW - w) left = centreLeft;
-    if (top < 0 || top > screenH - h) top = centreTop;
+    // Maximised, the stored place waits for a close in another state.
+    if (state == 2) return state;
+    const QSize design(int(tw(kDesignOuter.width())), int(tw(kDesignOuter.height())));
+    const QPoint centre = centreOf(available(QGuiApplication::primaryScreen()), design);
+    StoredPlace stored;
+    stored.left = profile_.GetPrivateProfileInt(kWindow, "Left", centre.x());
+    stored.top = profile_.GetPrivateProfileInt(kWindow, "Top", centre.y());
+    stored.width = profile_.GetPrivateProfileInt(kWindow, "Width", 9600);
+    stored.height = profile_.GetPrivateProfileInt(kWindow, "Height", 6900);
+    // It opens on the screen that holds its stored corner, else on the primary one.
+    const QScreen* screen = QGuiApplication::screenAt(
+        QPoint(twipsToPixels(double(stored.left)), twipsToPixels(double(stored.top))));
+    if (!screen) screen = QGuiApplication::primaryScreen();
+    const QRect place = fitToScreen(stored, available(screen), design);
+    setOuterSize(place.width(), place.height());
     // Before the window is made, a move places the corner of its frame.
-    if (!maximized) move(twipsToPixels(double(left)), twipsToPixels(double(top)));
+    move(twipsToPixels(double(place.x())), twipsToPixels(double(place.y())));
     return state;
 }
 
 void MainWindow::setOuterSize(int widthTwips, int heightTwips)
 {
-    // Sizes from a hand-edited file stay within what a screen can hold.
-    outerWanted_ = QSize(qBound(1, twipsToPixels(widthTwips), 16384),
-                         qBound(1, twipsToPixels(heightTwips), 16384));
+    outerWanted_ = QSize(twipsToPixels(widthTwips), twipsToPixels(heightTwips));
     lastFrame_ = QSize(-1, -1); // fitted to the frame known now, and again to the real one
     fitFrame();
 }
