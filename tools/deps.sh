@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building, running and testing Frostel32 needs on Debian 12, if it is missing.
 set -euo pipefail
-pkgs=(cmake ninja-build g++ pkg-config
+pkgs=(cmake ninja-build g++ pkg-config clang-14 libclang-rt-14-dev llvm-14
       qt6-base-dev qt6-multimedia-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools
       qt6-l10n-tools qt6-translations-l10n
       libgl-dev libxcb1-dev libbenchmark-dev fonts-dejavu-core

@@ -2,6 +2,7 @@
 // them count the frame that a window manager puts around the window.
 #include "mainwindow/main_window.h"
 
+#include "mainwindow/screen_fit.h"
 #include "widgets/twips.h"
 
 #include <QGuiApplication>
@@ -14,6 +15,13 @@ using widgets::twipsToPixels;
 
 long long tw(int pixels) { return (long long)widgets::pixelsToTwips(pixels); }
 
+// The part of the screen that windows may take, without panels and docks.
+QRect available(const QScreen* screen)
+{
+    const QRect r = screen->availableGeometry();
+    return {int(tw(r.x())), int(tw(r.y())), int(tw(r.width())), int(tw(r.height()))};
+}
+
 } // namespace
 
 int16_t MainWindow::restorePlace()
@@ -23,35 +31,28 @@ int16_t MainWindow::restorePlace()
     // higher than it was left. Made anew when it shows, its frame goes where it is asked.
     if (testAttribute(Qt::WA_WState_Created)) destroy();
     // The state itself is set by the show: set before, it would make the window as well.
-    settings::WindowPlace place;
-    place.state = settings::readWindowState(profile_);
-    const bool maximized = place.state == 2;
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const long long screenW = tw(screen.width()), screenH = tw(screen.height());
-    long long centreLeft = 0, centreTop = 0;
-    long long left = tw(x()), top = tw(y());
-    if (!maximized) {
-        centreLeft = core::idiv(double(screenW - tw(kDesignOuter.width())), 2);
-        centreTop = core::idiv(double(screenH - tw(kDesignOuter.height())), 2);
-        settings::readWindowPlace(profile_, place, centreLeft, centreTop);
-        left = place.left;
-        top = place.top;
-        setOuterSize(place.width, place.height);
-    }
-    // Off the screen, by the size the window has now: back to the centre.
-    const long long w = tw(frameGeometry().width()), h = tw(frameGeometry().height());
-    if (left < 0 || left > screenW - w) left = centreLeft;
-    if (top < 0 || top > screenH - h) top = centreTop;
+    settings::WindowPlace stored;
+    stored.state = settings::readWindowState(profile_);
+    // Maximised, the stored place waits for a close in another state.
+    if (stored.state == 2) return stored.state;
+    const QSize design(int(tw(kDesignOuter.width())), int(tw(kDesignOuter.height())));
+    const QPoint centre = centreOf(available(QGuiApplication::primaryScreen()), design);
+    settings::readWindowPlace(profile_, stored, centre.x(), centre.y());
+    // It opens on the screen that holds its stored corner, else on the primary one.
+    const QScreen* screen = QGuiApplication::screenAt(
+        QPoint(twipsToPixels(double(stored.left)), twipsToPixels(double(stored.top))));
+    if (!screen) screen = QGuiApplication::primaryScreen();
+    const QRect place = fitToScreen({int(stored.left), int(stored.top), stored.width, stored.height},
+                                    available(screen), design);
+    setOuterSize(place.width(), place.height());
     // Before the window is made, a move places the corner of its frame.
-    if (!maximized) move(twipsToPixels(double(left)), twipsToPixels(double(top)));
-    return place.state;
+    move(twipsToPixels(double(place.x())), twipsToPixels(double(place.y())));
+    return stored.state;
 }
 
 void MainWindow::setOuterSize(int widthTwips, int heightTwips)
 {
-    // Sizes from a hand-edited file stay within what a screen can hold.
-    outerWanted_ = QSize(qBound(1, twipsToPixels(widthTwips), 16384),
-                         qBound(1, twipsToPixels(heightTwips), 16384));
+    outerWanted_ = QSize(twipsToPixels(widthTwips), twipsToPixels(heightTwips));
     lastFrame_ = QSize(-1, -1); // fitted to the frame known now, and again to the real one
     fitFrame();
 }

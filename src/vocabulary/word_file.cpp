@@ -162,7 +162,9 @@ std::optional<Failure> writeWordFile(const QString& fileName, const QStringList&
 {
     const QFileInfo info(fileName);
     if (!info.absoluteDir().exists()) return kPathNotFound;
-    if (info.isDir()) return kAccess;
+    // A folder, a device or a pipe (or a link to one) is no word file: a save would replace
+    // it, or pour the words into it.
+    if (info.exists() && !info.isFile()) return kAccess;
     QByteArray bytes;
     for (const QString& w : words) {
         bytes += encodeCp1252(w);

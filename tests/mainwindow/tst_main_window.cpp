@@ -147,6 +147,8 @@ void MainWindowTest::handEditedFileStartsSafely()
     QVERIFY(w->isVisible());
     QVERIFY(w->frameGeometry().width() >= 640);
     QVERIFY(w->frameGeometry().height() >= 465);
+    // Whole on the screen, within reach.
+    QVERIFY(w->screen()->availableGeometry().contains(w->frameGeometry()));
     // A game plays with whatever it read.
     QAction* start = w->findChild<QAction*>("start");
     start->trigger();

@@ -1,14 +1,19 @@
 // The main window's place, size and state, offscreen and under a window manager: as stored,
 // within the screen, kept at the end, and the smallest size it allows.
+#include "mainwindow/screen_fit.h"
 #include "support/files.h"
 #include "support/main_window_start.h"
 
 #include <QAction>
 #include <QLabel>
+#include <limits>
 
+using mainwindow::StoredPlace;
 using support::centred;
 using support::px;
 using support::tw;
+
+Q_DECLARE_METATYPE(mainwindow::StoredPlace)
 
 class WindowPlaceTest : public QObject, support::MainWindowStart {
     Q_OBJECT
@@ -18,6 +23,8 @@ private slots:
     void restartRestoresWhatWasStored();
     void storedStateComesBack_data();
     void storedStateComesBack();
+    void fitsTheScreen_data();
+    void fitsTheScreen();
     void screenBounds_data();
     void screenBounds();
     void minimumSizeAndLayout();
@@ -97,33 +104,66 @@ void WindowPlaceTest::storedStateComesBack()
                                 .toLatin1());
 }
 
+void WindowPlaceTest::fitsTheScreen_data()
+{
+    QTest::addColumn<StoredPlace>("stored");
+    QTest::addColumn<QRect>("screen"); // its available area
+    QTest::addColumn<QRect>("place");
+    const QRect s(0, 0, 15360, 11520); // 1024 x 768 pixels
+    const int far = std::numeric_limits<int>::max(), near = std::numeric_limits<int>::min();
+    QTest::newRow("on the screen: as stored")
+        << StoredPlace{750, 600, 10500, 7425} << s << QRect(750, 600, 10500, 7425);
+    QTest::newRow("smaller than the design, or below zero: the design size")
+        << StoredPlace{750, 600, -5, 100} << s << QRect(750, 600, 9600, 6975);
+    QTest::newRow("taller than the screen: as tall, from its top")
+        << StoredPlace{750, 600, 10500, 99999999} << s << QRect(750, 0, 10500, 11520);
+    QTest::newRow("wider than the screen, far off: from its left edge")
+        << StoredPlace{far, near, far, 7425} << s << QRect(0, 2272, 15360, 7425);
+    QTest::newRow("a corner off the screen: centred, moved in to stand whole")
+        << StoredPlace{-15, 600, 14000, 7425} << s << QRect(1360, 600, 14000, 7425);
+    QTest::newRow("a second screen under a panel: judged and centred on its own")
+        << StoredPlace{15660, 300, 9600, 6975} << QRect(15360, 450, 19200, 10800)
+        << QRect(15660, 2362, 9600, 6975);
+    QTest::newRow("a screen smaller than the design: the design size, from its corner")
+        << StoredPlace{300, 300, 9600, 6975} << QRect(0, 0, 9000, 6000) << QRect(0, 0, 9600, 6975);
+}
+
+void WindowPlaceTest::fitsTheScreen()
+{
+    QFETCH(StoredPlace, stored);
+    QFETCH(QRect, screen);
+    QFETCH(QRect, place);
+    QCOMPARE(mainwindow::fitToScreen(stored, screen, QSize(9600, 6975)), place);
+}
+
 void WindowPlaceTest::screenBounds_data()
 {
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("top");
-    QTest::addColumn<bool>("leftKept");
-    QTest::addColumn<bool>("topKept");
-    const QRect s = QGuiApplication::primaryScreen()->geometry();
+    QTest::addColumn<QByteArray>("window"); // the keys of [Window]
+    QTest::addColumn<QRect>("frame");
+    const QRect s = QGuiApplication::primaryScreen()->availableGeometry();
     const int maxLeft = int(tw(s.width())) - 9600, maxTop = int(tw(s.height())) - 6975;
-    QTest::newRow("right edge exactly") << maxLeft << 300 << true << true;
-    QTest::newRow("one twip further") << maxLeft + 1 << 300 << false << true;
-    QTest::newRow("left of the screen, top judged alone") << -15 << 300 << false << true;
-    QTest::newRow("below the screen") << 300 << maxTop + 1 << true << false;
-    QTest::newRow("above the screen") << 300 << -1 << true << false;
+    const QPoint c = centred({640, 465});
+    auto at = [](int left, int top) {
+        return QStringLiteral("Left=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1();
+    };
+    QTest::newRow("right edge exactly") << at(maxLeft, 300) << QRect(px(maxLeft), 20, 640, 465);
+    QTest::newRow("one twip further") << at(maxLeft + 1, 300) << QRect(c.x(), 20, 640, 465);
+    QTest::newRow("left of the screen, top judged alone")
+        << at(-15, 300) << QRect(c.x(), 20, 640, 465);
+    QTest::newRow("below the screen") << at(300, maxTop + 1) << QRect(20, c.y(), 640, 465);
+    QTest::newRow("above the screen") << at(300, -1) << QRect(20, c.y(), 640, 465);
+    QTest::newRow("taller than the screen: as tall, from its top")
+        << at(300, 600) + "Height=99999999\r\n"
+        << QRect(20, s.top(), 640, s.height());
 }
 
 void WindowPlaceTest::screenBounds()
 {
-    QFETCH(int, left);
-    QFETCH(int, top);
-    QFETCH(bool, leftKept);
-    QFETCH(bool, topKept);
+    QFETCH(QByteArray, window);
+    QFETCH(QRect, frame);
     if (support::onWayland()) QSKIP("the compositor places the window, on the screen");
-    auto w = startWindow(
-        QStringLiteral("[Window]\r\nLeft=%1\r\nTop=%2\r\n").arg(left).arg(top).toLatin1());
-    const QPoint centre = centred({640, 465});
-    QTRY_COMPARE(w->frameGeometry().topLeft(),
-                 QPoint(leftKept ? px(left) : centre.x(), topKept ? px(top) : centre.y()));
+    auto w = startWindow("[Window]\r\n" + window);
+    QTRY_COMPARE(w->frameGeometry(), frame);
 }
 
 void WindowPlaceTest::minimumSizeAndLayout()

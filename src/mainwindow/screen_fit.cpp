@@ -1,0 +1,40 @@
+#include "mainwindow/screen_fit.h"
+
+#include <QtGlobal>
+
+namespace mainwindow {
+namespace {
+
+// One axis: the stored start and length on a screen from `first` that is `room` long.
+struct Span {
+    long long start, length;
+};
+
+Span fit(long long start, long long length, long long first, long long room, long long minimum,
+         long long centre)
+{
+    length = qBound(minimum, length, qMax(minimum, room));
+    const long long last = first + room - length; // the furthest start that shows it whole
+    if (start < first || start > last) start = qMax(first, qMin(centre, last));
+    return {start, length};
+}
+
+} // namespace
+
+QPoint centreOf(const QRect& screen, const QSize& size)
+{
+    return {screen.left() + (screen.width() - size.width()) / 2,
+            screen.top() + (screen.height() - size.height()) / 2};
+}
+
+QRect fitToScreen(const StoredPlace& stored, const QRect& screen, const QSize& minimum)
+{
+    const QPoint centre = centreOf(screen, minimum);
+    const Span x =
+        fit(stored.left, stored.width, screen.left(), screen.width(), minimum.width(), centre.x());
+    const Span y =
+        fit(stored.top, stored.height, screen.top(), screen.height(), minimum.height(), centre.y());
+    return QRect(int(x.start), int(y.start), int(x.length), int(y.length));
+}
+
+} // namespace mainwindow
