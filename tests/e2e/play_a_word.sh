@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# The real program under Xvfb with a window manager: start a game by its shortcut, play a
-# word to its end by keys, end the wait with Enter, quit through the menu, and check the
-# titles the window manager shows and what the settings file then holds.
+# The real program under Xvfb with a window manager, by keys alone: start a game by its
+# shortcut, play a word to its end, end the wait with Enter, change the options and the word
+# file through their windows, quit through the menu, and check the titles the window manager
+# shows and what the settings and word files then hold.
 #   under_xvfb.sh with_openbox.sh play_a_word.sh FROSTEL32_BINARY
 #   under_xvfb.sh with_openbox.sh play_a_word.sh --installed   as the menu starts an installed game
 set -u
@@ -62,6 +63,18 @@ sleep 1.5
 grep -q '/frostel32-sound.so$' /proc/$gpid/maps || fail "the sound module was not loaded"
 xdotool key Return # next word
 sleep 2.5
+# The options and the editor by keys alone: a new name, a word added and saved, one player
+# fewer by the counter's Down key, and OK by Enter.
+xdotool key alt+g o
+window "Options" >/dev/null || exit 1
+xdotool type --delay 100 Kim # the first name has the focus, all of it selected
+xdotool key alt+e
+window "frostel.dat" >/dev/null || exit 1
+xdotool type --delay 100 yak
+xdotool key Return alt+s alt+o # Add is the default; Save; OK
+sleep 0.5
+xdotool key Tab Tab Tab Tab Down Return # from OK past the lists and the editor's button
+sleep 0.5
 xdotool key ctrl+e
 window "Program end" >/dev/null || exit 1
 xdotool key Return # Yes is the default
@@ -77,9 +90,11 @@ for key in Left Top Width Height Status; do
 done
 grep -q $'^Status= 0\r$' "$ini" || fail "Status not ' 0': $(cat -A "$ini")"
 grep -q $'^Width= 9600\r$' "$ini" || fail "Width not 9600 twips: $(cat -A "$ini")"
-grep -q 'Einstellungen' "$ini" && fail "options written without the options window"
+for line in 'Spieler1=Kim' 'Anzahl= 3'; do
+    grep -q "^$line"$'\r$' "$ini" || fail "no $line in $(cat -A "$ini")"
+done
+[ "$(cat "$folder/frostel.dat")" = $'ox\r\nyak\r' ] || fail "the word was not saved: $(cat -A "$folder/frostel.dat")"
 if [ "$bin" = --installed ]; then
-    [ "$(cat "$folder/frostel.dat")" = $'ox\r' ] || fail "the player's word file was replaced"
     for f in /usr/share/games/frostel32/*; do
         [ -d "$f" ] && continue # another language's word files
         cmp -s "$f" "$folder/${f##*/}" || [ "${f##*/}" = frostel.dat ] || fail "no copy of $f"
