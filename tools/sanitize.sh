@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Everything built with clang's AddressSanitizer and UndefinedBehaviorSanitizer, then every
-# suite that needs no display server and the window suites offscreen. The first report ends
+# suite that needs no display server and the window suites offscreen (not those under a real
+# X server or compositor, whose own libraries are not ours to judge). The first report ends
 # the suite that made it, and fails the run.
 #   tools/sanitize.sh [build folder]     (build-asan by default)
 set -euo pipefail
