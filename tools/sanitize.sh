@@ -12,4 +12,4 @@ cmake --build "$dir" -j2
 export ASAN_OPTIONS=halt_on_error=1:detect_leaks=1
 export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
 export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-14/bin/llvm-symbolizer
-ctest --test-dir "$dir" --output-on-failure -j2 -E '_openbox$|_x11$|^e2e_'
+ctest --test-dir "$dir" --output-on-failure -j2 -E '_openbox$|_x11$|_weston$|^e2e_'
