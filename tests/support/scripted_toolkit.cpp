@@ -1,49 +1,25 @@
 #include "support/scripted_toolkit.h"
 
+#include <stdexcept>
+
 namespace support {
 
-QStringList ScriptedToolkit::trace(const QStringList& prefixes) const
+int ScriptedToolkit::note(const QString& entry)
 {
-    QStringList out;
-    for (const QString& entry : log) {
-        for (const QString& p : prefixes) {
-            if (entry.startsWith(p)) {
-                out << entry;
-                break;
-            }
-        }
-    }
-    return out;
-}
-
-void ScriptedToolkit::runFirst(std::deque<Action>& actions)
-{
-    if (actions.empty()) return;
-    Action a = std::move(actions.front());
-    actions.pop_front();
-    a();
-}
-
-void ScriptedToolkit::serveEvents()
-{
-    log << QStringLiteral("serve");
-    runFirst(serveActions);
+    log << entry;
+    return player ? player(entry) : 0;
 }
 
 void ScriptedToolkit::waitForEvents()
 {
-    log << QStringLiteral("hold");
-    if (!serveActions.empty()) return runFirst(serveActions);
-    if (holdActions.empty())
-        throw std::runtime_error("a held wait found no scripted action to end it");
-    runFirst(holdActions);
+    if (!player) throw std::runtime_error("a held wait with no player to end it");
+    note(QStringLiteral("hold"));
 }
 
 void ScriptedToolkit::wait(double seconds)
 {
-    log << QStringLiteral("wait %1").arg(seconds);
-    now += seconds;
-    runFirst(waitActions);
+    now_ += seconds;
+    note(QStringLiteral("wait %1").arg(seconds));
 }
 
 double ScriptedToolkit::random()
@@ -56,57 +32,19 @@ double ScriptedToolkit::random()
 
 int ScriptedToolkit::msgBox(const QString& text, int type, const QString& title)
 {
-    log << QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
-    if (type != core::kYesNoQuestion) return core::kAnswerOk;
-    if (answers.empty()) throw std::runtime_error("unexpected question: " + text.toStdString());
-    const int a = answers.front();
-    answers.pop_front();
-    return a;
-}
-
-GameFixture::GameFixture(const QStringList& words, int players)
-{
-    game.g.AnzSpieler = int16_t(players);
-    game.setUpBoard();
-    game.List1 = words;
-    tk.log.clear();
-}
-
-void GameFixture::drawIndex(int i)
-{
-    // The draw takes the whole part of r * n; aim at the middle of entry i.
-    const double n = game.List1.size();
-    tk.randoms.push_back((i + 0.5) / n);
-}
-
-QString GameFixture::fields() const
-{
-    QString out;
-    for (size_t i = 1; i < game.board.Feld.size(); ++i) {
-        const int p = game.board.Feld[i].picture;
-        out += p < 0 ? QChar('_') : core::tileTag(p);
+    const QString entry = QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
+    if (type != core::kYesNoQuestion) {
+        log << entry;
+        return core::kAnswerOk;
     }
-    return out;
-}
-
-int GameFixture::visibleStage() const
-{
-    int stage = -1;
-    for (int i = 0; i < core::kStages; ++i) {
-        if (game.board.B_Folge_Visible[i]) {
-            if (stage >= 0) return -2; // more than one: never allowed outside a change
-            stage = i;
-        }
+    if (!answers.empty()) {
+        log << entry;
+        const int a = answers.front();
+        answers.pop_front();
+        return a;
     }
-    return stage;
-}
-
-int GameFixture::visiblePoints(int player) const
-{
-    int n = 0;
-    for (int j = 0; j < core::kPointsToWin; ++j)
-        n += game.board.Punkt[player * core::kPointsToWin + j].Visible ? 1 : 0;
-    return n;
+    if (!player) throw std::runtime_error("unexpected question: " + text.toStdString());
+    return note(entry);
 }
 
 } // namespace support
