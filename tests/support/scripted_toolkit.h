@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <deque>
 #include <functional>
+#include <stdexcept>
 
 namespace support {
 
@@ -20,27 +21,51 @@ public:
     std::deque<double> randoms; // values the generator gives; 0 once they run out
     double charWidth = 120.0;   // twips a character in 12-point type
     double width = 9600.0;      // the main window's outer width
-    // The player, called with each "serve", "wait", "hold" and with a question that
+    // The player, called with each "serve", "wait" and "hold" and with a question that
     // `answers` does not answer; returns the answer to a question. Without one, a hold or
     // such a question is an error: nothing would ever end it.
     std::function<int(const QString& entry)> player;
 
     QStringList boxes() const { return log.filter(QRegularExpression("^box ")); }
 
-    void serveEvents() override { note(QStringLiteral("serve")); }
-    void waitForEvents() override;
-    void wait(double seconds) override;
+    void serveEvents() override { note("serve"); }
+    void waitForEvents() override { note("hold", true); }
+    void wait(double seconds) override
+    {
+        now_ += seconds;
+        note(QStringLiteral("wait %1").arg(seconds));
+    }
     double clock() override { return now_; }
-    void seedRandom(double) override { log << QStringLiteral("seed"); }
-    double random() override;
-    int msgBox(const QString& text, int type, const QString& title) override;
+    void seedRandom(double) override { log << "seed"; }
+    double random() override
+    {
+        const double r = randoms.empty() ? 0.0 : randoms.front();
+        if (!randoms.empty()) randoms.pop_front();
+        return r;
+    }
+    int msgBox(const QString& text, int type, const QString& title) override
+    {
+        const QString entry = QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
+        if (type == core::kYesNoQuestion && answers.empty()) return note(entry, true);
+        log << entry;
+        if (type != core::kYesNoQuestion) return core::kAnswerOk;
+        const int answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
     void playSound(int n) override { log << QStringLiteral("sound %1").arg(n); }
     double textWidth(const QString& text) override { return text.size() * charWidth; }
     double windowWidth() override { return width; }
-    void endProgram() override { log << QStringLiteral("end"); }
+    void endProgram() override { log << "end"; }
 
 private:
-    int note(const QString& entry);
+    int note(const QString& entry, bool needsPlayer = false)
+    {
+        if (needsPlayer && !player)
+            throw std::logic_error("nobody to answer " + entry.toStdString());
+        log << entry;
+        return player ? player(entry) : 0;
+    }
     double now_ = 36000.0;
 };
 
