@@ -1,58 +1,48 @@
-// The frames of flat panels: where their lines run, in twips and on the screen.
+// Panel frames as they show on the screen: one pixel wide, the upper and left edge outside
+// the panel, the lower and right edge on its own last row and column, on any pixel size.
 #include "assets/panel.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QTest>
 
-using assets::PanelLine;
-
 class PanelTest : public QObject {
     Q_OBJECT
 private slots:
-    void lines();
-    void drawnPixels();
+    void sunkenFrame_data()
+    {
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<double>("t");       // twips a pixel
+        QTest::addColumn<QString>("pixels"); // rows of g grey, w white; the panel 3 by 2 at (2, 2)
+        QTest::newRow("one") << 1 << 15.0 << ".......|.ggggw.|.g...w.|.g...w.|.wwwww.|.......";
+        QTest::newRow("two at 12")
+            << 2 << 12.0 << "ggggggw|gggggww|gg...ww|gg...ww|gwwwwww|wwwwwww";
+        QTest::newRow("none") << 0 << 15.0 << ".......|.......|.......|.......|.......|.......";
+    }
+
+    void sunkenFrame()
+    {
+        QFETCH(int, lines);
+        QFETCH(double, t);
+        QFETCH(QString, pixels);
+        QImage image(7, 6, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        for (const auto& [edges, colour] :
+             {std::pair{&assets::RahmenObenLinks, 8}, std::pair{&assets::RahmenUntenRechts, 15}})
+            assets::drawPanelLines(painter, edges(2 * t, 3 * t, 2 * t, 2 * t, lines, t), colour, t);
+        painter.end();
+        QString seen;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                seen += image.pixel(x, y) == assets::QBColor(8).rgb()    ? 'g'
+                        : image.pixel(x, y) == assets::QBColor(15).rgb() ? 'w'
+                                                                         : '.';
+            seen += '|';
+        }
+        QCOMPARE(seen.chopped(1), pixels);
+    }
 };
-
-void PanelTest::lines()
-{
-    // The raised frame around the names of the options window.
-    QCOMPARE(assets::RahmenObenLinks(200, 2100, 650, 2300, 1),
-             (std::vector<PanelLine>{{185, 635, 2315, 635}, {185, 635, 185, 2965}}));
-    QCOMPARE(assets::RahmenUntenRechts(200, 2100, 650, 2300, 1),
-             (std::vector<PanelLine>{{185, 2950, 2300, 2950}, {2300, 635, 2300, 2965}}));
-    QCOMPARE(assets::RahmenObenLinks(200, 2100, 650, 2300, 1, 12)[0],
-             (PanelLine{188, 638, 2312, 638})); // another pixel size
-    QVERIFY(assets::RahmenUntenRechts(200, 2100, 650, 2300, 0).empty());
-
-    // A second line lies one pixel further out.
-    const auto up2 = assets::RahmenObenLinks(100, 300, 100, 300, 2);
-    const auto low2 = assets::RahmenUntenRechts(100, 300, 100, 300, 2);
-    QCOMPARE(up2.size(), size_t(4));
-    QCOMPARE(up2[2], (PanelLine{70, 70, 430, 70}));
-    QCOMPARE(low2[2], (PanelLine{70, 415, 415, 415}));
-    QCOMPARE(low2[3].x1, 415.0);
-}
-
-void PanelTest::drawnPixels()
-{
-    // A sunken frame around a control at (30, 30) px, 60 x 45 px.
-    QImage img(120, 100, QImage::Format_RGB32);
-    img.fill(assets::QBColor(7));
-    QPainter p(&img);
-    assets::drawPanelLines(p, assets::RahmenObenLinks(450, 900, 450, 675, 1), 8);
-    assets::drawPanelLines(p, assets::RahmenUntenRechts(450, 900, 450, 675, 1), 15);
-    p.end();
-    const QRgb grey = assets::QBColor(8).rgb(), white = assets::QBColor(15).rgb(),
-               back = assets::QBColor(7).rgb();
-    QCOMPARE(img.pixel(29, 29), grey);  // top left corner, outside
-    QCOMPARE(img.pixel(60, 29), grey);  // upper edge
-    QCOMPARE(img.pixel(29, 60), grey);  // left edge
-    QCOMPARE(img.pixel(60, 75), white); // lower edge on the bottom coordinate
-    QCOMPARE(img.pixel(90, 60), white); // right edge on the right coordinate
-    QCOMPARE(img.pixel(60, 60), back);  // inside untouched
-    QCOMPARE(img.pixel(60, 28), back);  // one line only
-}
 
 QTEST_MAIN(PanelTest)
 #include "tst_panel.moc"
