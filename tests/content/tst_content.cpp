@@ -38,14 +38,11 @@ QStringList linksOf(const QString& file)
 class Content : public QObject {
     Q_OBJECT
 private slots:
-    // The game finds its files by bare name in its working folder; so do the tests.
-    void initTestCase() { QVERIFY(QDir::setCurrent(QStringLiteral(GAME_DIR))); }
-
     // All fourteen sounds are PCM wave files whose chunks add up to the file.
     void sounds()
     {
         for (int n = 0; n <= 13; ++n) {
-            const QByteArray b = readAll(QStringLiteral("frostl%1.wav").arg(n));
+            const QByteArray b = readAll(QStringLiteral(GAME_DIR "/frostl%1.wav").arg(n));
             const auto at = [&](qsizetype i) { return qFromLittleEndian<quint32>(b.data() + i); };
             const qsizetype data = b.indexOf("data");
             QVERIFY2(b.startsWith("RIFF") && b.mid(8, 4) == "WAVE" && b.indexOf("fmt ") > 0 &&
@@ -63,7 +60,7 @@ private slots:
         const QStringList files = QStringLiteral(WORD_FILES).split(u',');
         QVERIFY(files.contains("frostel.dat") && files.size() > 3);
         for (const QString& file : files) {
-            const vocabulary::ReadResult r = vocabulary::readWordFile(file);
+            const vocabulary::ReadResult r = vocabulary::readWordFile(GAME_DIR "/" + file);
             QVERIFY2(!r.failure, qPrintable(file));
             for (const QString& w : r.words)
                 QVERIFY2(QRegularExpression("^[A-Za-z]{1,20}$").match(w).hasMatch(), qPrintable(w));

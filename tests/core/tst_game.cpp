@@ -125,11 +125,8 @@ private:
             t.due.insert({{at, n}, rest.section(':', 1).trimmed()});
             return false;
         }
-        if (line.contains("; ")) {
-            bool moved = false;
-            for (const QString& one : line.split("; ")) moved = act(one) || moved;
-            return moved;
-        }
+        if (line.contains("; ")) // several moves at once
+            return std::ranges::count_if(line.split("; "), [this](auto& one) { return act(one); });
         const bool move = word != "set" && word != "file" && word != "look";
         if (word != "set" && word != "file" && !std::exchange(t.built, true)) g.setUpBoard();
         if (word == "set") set(rest, false);
@@ -180,9 +177,8 @@ private:
             else if (key == "random") t_->tk.randoms.push_back(v.toDouble());
             else out_ << "  error: no setting " + key;
             // What the options window counts as a change that calls for a new game.
-            if (viaOptions &&
-                QStringList{"players", "tips", "names", "repeat", "file"}.contains(key))
-                g.g.EinstGeaendert = true;
+            const QStringList renew{"players", "tips", "names", "repeat", "file"};
+            g.g.EinstGeaendert |= viaOptions && renew.contains(key);
         }
     }
 
@@ -207,18 +203,22 @@ private:
             if (b.B_Folge_Visible[i]) parts.back() += ' ' + QString::number(i);
         if (b.B_Folge0_Height != 2400)
             parts.back() += QStringLiteral(" %1 high").arg(b.B_Folge0_Height);
-        QStringList rows; // "!": points out of order, or in a row that does not show
+        QStringList rows; // "!": points out of order or apart from the score, a row out of line
         for (int i = 0; i < core::kPlayers; ++i) {
             const core::PlayerLabel& l = b.Spieler[i];
             int points = 0;
-            bool inOrder = l.Visible && l.loaded;
-            for (int j = 0; j < core::kPointsToWin; ++j)
-                if (b.Punkt[i * core::kPointsToWin + j].Visible) inOrder = points++ == j && inOrder;
+            bool fine =
+                l.Visible && l.loaded && (i == 0 || l.Top >= b.Spieler[i - 1].Top + l.Height);
+            for (int j = 0; j < core::kPointsToWin; ++j) {
+                const core::PointSymbol& s = b.Punkt[i * core::kPointsToWin + j];
+                fine = s.Top == l.Top && (!s.Visible || points++ == j) && fine;
+            }
+            fine = fine && points == g.g.Punkte[i];
             const bool red = l.BackColor == core::kRed && l.ForeColor == core::kWhite;
             const bool blue = l.BackColor == core::kBlue && l.ForeColor == core::kLightGrey;
             const QString turn = red ? "*" : blue ? "" : "?";
             if (l.Visible || points)
-                rows << turn + l.Caption + ' ' + QString::number(points) + (inOrder ? "" : "!");
+                rows << turn + l.Caption + ' ' + QString::number(points) + (fine ? "" : "!");
         }
         parts << rows.join(", ");
         QString gone, open; // an umlaut's tile that shows counts as open

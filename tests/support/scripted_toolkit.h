@@ -4,7 +4,6 @@
 // which can act there as a player would at that moment.
 #include "core/toolkit.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 #include <deque>
 #include <functional>
@@ -26,7 +25,7 @@ public:
     // such a question is an error: nothing would ever end it.
     std::function<int(const QString& entry)> player;
 
-    QStringList boxes() const { return log.filter(QRegularExpression("^box ")); }
+    QStringList boxes() const { return log.filter("box "); }
 
     void serveEvents() override { note("serve"); }
     void waitForEvents() override { note("hold", true); }
@@ -37,21 +36,14 @@ public:
     }
     double clock() override { return now_; }
     void seedRandom(double) override { log << "seed"; }
-    double random() override
-    {
-        const double r = randoms.empty() ? 0.0 : randoms.front();
-        if (!randoms.empty()) randoms.pop_front();
-        return r;
-    }
+    double random() override { return randoms.empty() ? 0.0 : take(randoms); }
     int msgBox(const QString& text, int type, const QString& title) override
     {
         const QString entry = QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
         if (type == core::kYesNoQuestion && answers.empty()) return note(entry, true);
         log << entry;
         if (type != core::kYesNoQuestion) return core::kAnswerOk;
-        const int answer = answers.front();
-        answers.pop_front();
-        return answer;
+        return take(answers);
     }
     void playSound(int n) override { log << QStringLiteral("sound %1").arg(n); }
     double textWidth(const QString& text) override { return text.size() * charWidth; }
@@ -59,6 +51,12 @@ public:
     void endProgram() override { log << "end"; }
 
 private:
+    template <typename T> static T take(std::deque<T>& queue)
+    {
+        const T first = queue.front();
+        queue.pop_front();
+        return first;
+    }
     int note(const QString& entry, bool needsPlayer = false)
     {
         if (needsPlayer && !player)
