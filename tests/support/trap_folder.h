@@ -1,8 +1,7 @@
 #pragma once
 // Writes that fail as on a player's machine, also as root (as in CI), where permissions stop
-// nothing: the write runs in a child process without root's powers. "full disk": no file may
-// grow; "read-only": the folder takes no new file, its files stay writable; "unreadable": its
-// files may not be read. Any other trap runs the write as it is.
+// nothing: the write runs in a child without root's powers. "full disk": no file may grow;
+// "read-only": no new file in the folder, its files stay writable; "unreadable": no file read.
 #include <QDir>
 #include <QFile>
 #include <csignal>
@@ -15,7 +14,8 @@
 
 namespace support {
 
-// Runs `write` with the trap set on the folder; returns its result (0 to 255).
+// Runs `write` with the trap set on the folder, or as it is for any other trap; returns its
+// result (0 to 255).
 inline int inTrap(const QString& folder, const QString& trap, const std::function<int()>& write)
 {
     if (trap != "full disk" && trap != "read-only" && trap != "unreadable") return write();
