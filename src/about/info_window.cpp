@@ -1,7 +1,7 @@
 #include "about/info_window.h"
 
-#include "widgets/pictures.h"
 #include "ui_info.h"
+#include "widgets/pictures.h"
 
 #include <QTimer>
 

@@ -1,7 +1,7 @@
 #include "app/working_folder.h"
+#include "mainwindow/main_window.h"
 #include "platform/lean_style.h"
 #include "platform/translations.h"
-#include "mainwindow/main_window.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -135,10 +135,9 @@ void Game::WoerterLaden()
     vocabulary::ReadResult r = vocabulary::readWordFile(g.WortDatei);
     List1 = std::move(r.words);
     if (r.failure) {
-        const QString text =
-            r.failure->number == vocabulary::kFileNotFound
-                ? tr("File %1 not found!").arg(g.WortDatei)
-                : vocabulary::failureText(*r.failure);
+        const QString text = r.failure->number == vocabulary::kFileNotFound
+                                 ? tr("File %1 not found!").arg(g.WortDatei)
+                                 : vocabulary::failureText(*r.failure);
         box(text, kOkExclamation, tr("Error"));
     }
 }

@@ -175,8 +175,7 @@ void Game::unloadMainWindow()
 void Game::start_Click()
 {
     if (g.SpielLaeuft) {
-        if (box(tr("Really start a new game?"), kYesNoQuestion, tr("Start")) != kAnswerYes)
-            return;
+        if (box(tr("Really start a new game?"), kYesNoQuestion, tr("Start")) != kAnswerYes) return;
         NeuesSpiel();
     }
     nextWord();

@@ -56,8 +56,7 @@ void Game::wordSolved()
             Warten(0.1);
         }
         box(board.Spieler[p].Caption + QChar(13) + tr("won!"), kOkExclamation, tr("Yippieh!"));
-        if (box(tr("Once again?"), kYesNoQuestion, QString()) != kAnswerYes)
-            unloadMainWindow();
+        if (box(tr("Once again?"), kYesNoQuestion, QString()) != kAnswerYes) unloadMainWindow();
         NeuesSpiel();
         newGame = true;
     }

@@ -143,8 +143,7 @@ void VocabularyEditor::OK_Click()
 {
     mainList_ = words();
     if (g_.Geaendert &&
-        tk_.msgBox(tr("Save changes?"), core::kYesNoQuestion, g_.WortDatei) ==
-            core::kAnswerYes &&
+        tk_.msgBox(tr("Save changes?"), core::kYesNoQuestion, g_.WortDatei) == core::kAnswerYes &&
         !Speichern_Click())
         return; // stays open: the changes are still here to save elsewhere or drop
     accept();   // hidden, still loaded

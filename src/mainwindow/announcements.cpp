@@ -34,7 +34,10 @@ QStringList Announcer::changes(const Seen& before, const Seen& after, const core
     // A guess shows in steps, so each part is judged by itself.
     for (const QChar letter : after.missed)
         if (sameWord && !before.missed.contains(letter))
-            out << tr("No %1: stage %2 of %3").arg(letter).arg(after.missed.size()).arg(core::kLostAt);
+            out << tr("No %1: stage %2 of %3")
+                       .arg(letter)
+                       .arg(after.missed.size())
+                       .arg(core::kLostAt);
     if (sameWord && after.fehler >= core::kLostAt) {
         if (before.fehler < core::kLostAt) out << tr("Word lost");
         if (whole) out << tr("The word was %1").arg(after.shown);

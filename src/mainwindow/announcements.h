@@ -11,10 +11,10 @@ namespace mainwindow {
 
 // The board as a player sees it at one moment.
 struct Seen {
-    QString shown;                      // the word's fields: a letter, or ' ' where covered
-    QString word;                       // the word being played, empty with none
-    bool open = false;                  // the word takes letters
-    QString missed;                     // letters played that the word does not hold
+    QString shown;     // the word's fields: a letter, or ' ' where covered
+    QString word;      // the word being played, empty with none
+    bool open = false; // the word takes letters
+    QString missed;    // letters played that the word does not hold
     int fehler = 0;
     int turn = 0;
     std::array<int, core::kPlayers> points{};

@@ -1,10 +1,10 @@
 // The main window as a view of the game: its pictures, the fields of the word, the scoreboard.
 #include "mainwindow/main_window.h"
 
+#include "ui_eisfig.h"
 #include "widgets/picture_button.h"
 #include "widgets/pictures.h"
 #include "widgets/twips.h"
-#include "ui_eisfig.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -2,9 +2,9 @@
 // The main window: draws what the game holds, turns clicks, keys and menu entries into the
 // game's commands, keeps its controls in place, and starts and ends the program.
 #include "core/game.h"
-#include "platform/qt_toolkit.h"
 #include "mainwindow/announcements.h"
 #include "mainwindow/layout.h"
+#include "platform/qt_toolkit.h"
 #include "settings/profile.h"
 #include "settings/stored_settings.h"
 

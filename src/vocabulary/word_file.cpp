@@ -17,11 +17,16 @@ constexpr char kSharpS = char(0xDF); // "ß" in Windows-1252
 constexpr qsizetype kKeep = kMaxWordLength + 1;
 
 // The words the game's toolkit used for these failures.
-const Failure kPastEnd{62, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Input past end of file"))};
-const Failure kAccess{75, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Path/File access error"))};
-const Failure kPermission{70, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Permission denied"))};
-const Failure kDeviceIo{57, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Device I/O error"))};
-const Failure kPathNotFound{76, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Path not found"))};
+const Failure kPastEnd{
+    62, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Input past end of file"))};
+const Failure kAccess{
+    75, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Path/File access error"))};
+const Failure kPermission{
+    70, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Permission denied"))};
+const Failure kDeviceIo{57,
+                        QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Device I/O error"))};
+const Failure kPathNotFound{76,
+                            QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Path not found"))};
 const Failure kDiskFull{61, QString::fromLatin1(QT_TRANSLATE_NOOP("vocabulary", "Disk full"))};
 
 bool isLineEnd(char c) { return c == '\r' || c == '\n'; }

@@ -55,7 +55,10 @@ QStringList overflowing(QWidget* window)
             continue;
         if (!w->property("twips").isValid()) continue; // laid out, not placed by design
         if (w->sizeHint().width() > w->width() + 1)
-            out << QString("%1 %2 > %3").arg(w->objectName()).arg(w->sizeHint().width()).arg(w->width());
+            out << QString("%1 %2 > %3")
+                       .arg(w->objectName())
+                       .arg(w->sizeHint().width())
+                       .arg(w->width());
     }
     return out;
 }
@@ -78,11 +81,32 @@ QStringList sharedKeys(QWidget* window)
 }
 
 // Texts that read the same in both languages: names, the product, words that are German already.
-const QStringList kSame{"Marta", "Helene", "Matthis", "Svenja", "Frostel32 v2.31", "Frostel",
-                        "&OK", "OK", "&Start", "Start", "Spiel starten", "Spiel beenden",
-                        "Buchstaben anzeigen", "nächstes Wort", "&Spiel", "&Hilfe", "&Ende",
-                        "&Suchen", "&Optionen...", "nächstes &Wort", "&Benutzen der Hilfe",
-                        "&Info...", " ", "frostel.dat", "zoo.dat", "frostel.dat"};
+const QStringList kSame{"Marta",
+                        "Helene",
+                        "Matthis",
+                        "Svenja",
+                        "Frostel32 v2.31",
+                        "Frostel",
+                        "&OK",
+                        "OK",
+                        "&Start",
+                        "Start",
+                        "Spiel starten",
+                        "Spiel beenden",
+                        "Buchstaben anzeigen",
+                        "nächstes Wort",
+                        "&Spiel",
+                        "&Hilfe",
+                        "&Ende",
+                        "&Suchen",
+                        "&Optionen...",
+                        "nächstes &Wort",
+                        "&Benutzen der Hilfe",
+                        "&Info...",
+                        " ",
+                        "frostel.dat",
+                        "zoo.dat",
+                        "frostel.dat"};
 
 } // namespace
 
@@ -108,8 +132,8 @@ Texts GermanTest::allTexts(QStringList* overflow, QStringList* keys)
     about::InfoWindow info(nullptr);
     mainwindow::HelpWindow help;
     Texts all;
-    for (QWidget* window : std::initializer_list<QWidget*>{w.get(), options.window(), &editor,
-                                                           &info, &help}) {
+    for (QWidget* window :
+         std::initializer_list<QWidget*>{w.get(), options.window(), &editor, &info, &help}) {
         all.merge(textsOf(window));
         *overflow += overflowing(window);
         *keys += sharedKeys(window);

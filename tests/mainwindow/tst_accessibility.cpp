@@ -19,7 +19,10 @@ void listen(QAccessibleEvent* event)
     if (auto* w = qobject_cast<QWidget*>(event->object())) heard << w->accessibleDescription();
 }
 
-QString nameOf(QWidget* w) { return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name); }
+QString nameOf(QWidget* w)
+{
+    return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+}
 
 } // namespace
 
@@ -67,9 +70,9 @@ void AccessibilityTest::aShortGame()
         if (on) QTimer::singleShot(0, weiter, &QAction::trigger);
     });
     QTest::keyClick(w.get(), Qt::Key_E);
-    QCOMPARE(heard.mid(0, 5), (QStringList{"A uncovered", "L uncovered", "E uncovered",
-                                           "Word solved: APPLE",
-                                           "Helene scores a point, 1 in all"}));
+    QCOMPARE(heard.mid(0, 5),
+             (QStringList{"A uncovered", "L uncovered", "E uncovered", "Word solved: APPLE",
+                          "Helene scores a point, 1 in all"}));
     QCOMPARE(nameOf(w->playerLabel(1)), QString("Helene, points: 1, at turn"));
     QAccessible::installUpdateHandler(nullptr);
 }

@@ -63,7 +63,8 @@ private slots:
                 names.WritePrivateProfileString("Einstellungen", "Spieler1", f[1]);
                 core::Options einst;
                 settings::readNames(names, einst);
-                QCOMPARE(einst.Spieler_Name[0], f[2] == "default" ? core::Options{}.Spieler_Name[0] : f[1]);
+                QCOMPARE(einst.Spieler_Name[0],
+                         f[2] == "default" ? core::Options{}.Spieler_Name[0] : f[1]);
             } else if (f[0] == "files") {
                 for (const QString& file : f[1].split(' '))
                     support::writeBytes(tmp.filePath(file), "x");

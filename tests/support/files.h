@@ -13,7 +13,7 @@ inline QByteArray readAll(const QString& path)
 {
     QFile f(path);
     return QFileInfo(path).isFile() && f.open(QIODevice::ReadOnly) ? f.readAll()
-                                                                  : QByteArray("<unreadable>");
+                                                                   : QByteArray("<unreadable>");
 }
 
 inline bool writeBytes(const QString& path, const QByteArray& bytes)

@@ -30,14 +30,15 @@ private slots:
         QPainter painter(&image);
         for (const auto& [edges, colour] :
              {std::pair{&widgets::RahmenObenLinks, 8}, std::pair{&widgets::RahmenUntenRechts, 15}})
-            widgets::drawPanelLines(painter, edges(2 * t, 3 * t, 2 * t, 2 * t, lines, t), colour, t);
+            widgets::drawPanelLines(painter, edges(2 * t, 3 * t, 2 * t, 2 * t, lines, t), colour,
+                                    t);
         painter.end();
         QString seen;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x)
                 seen += image.pixel(x, y) == widgets::QBColor(8).rgb()    ? 'g'
                         : image.pixel(x, y) == widgets::QBColor(15).rgb() ? 'w'
-                                                                         : '.';
+                                                                          : '.';
             seen += '|';
         }
         QCOMPARE(seen.chopped(1), pixels);
