@@ -28,6 +28,24 @@ inline QPoint centred(QSize outer)
 // There the compositor places windows and a program never learns where.
 inline bool onWayland() { return QGuiApplication::platformName().startsWith("wayland"); }
 
+// The window's outer place, once a window manager has framed it.
+inline QRect framed(QWidget* w)
+{
+    static_cast<void>(QTest::qWaitFor([w] { return w->frameGeometry() != w->geometry(); }));
+    return w->frameGeometry();
+}
+
+// The game's options in one line: players, tips, motif, repeat all, sound, show solution, word
+// file, names.
+inline QString optionsLine(const core::Game& game)
+{
+    const core::Options& e = game.einst;
+    return QString::asprintf("%d %d %d %d%d%d ", game.g.AnzSpieler, game.g.AnzTips, game.g.MotivNr,
+                             int(e.wiederh[0]), e.Sound, e.Anzeige) +
+           game.g.WortDatei + ' ' +
+           QStringList(e.Spieler_Name.begin(), e.Spieler_Name.end()).join(',');
+}
+
 class MainWindowStart {
 protected:
     // frostel.dat holds "apple", zoo.dat "gnu"; no settings file.
@@ -36,7 +54,6 @@ protected:
         oldCwd_ = QDir::currentPath();
         if (!QDir::setCurrent(dir_.path())) return false;
         for (const QString& f : QDir().entryList(QDir::Files)) QFile::remove(f);
-        ini_ = dir_.filePath("config/frostel.ini");
         QDir(dir_.filePath("config")).removeRecursively();
         exits_ = 0;
         return !vocabulary::writeWordFile("frostel.dat", {"apple"}) &&
@@ -49,8 +66,7 @@ protected:
         if (!ini.isNull()) {
             QDir().mkpath(dir_.filePath("config"));
             QFile f(ini_);
-            f.open(QIODevice::WriteOnly);
-            f.write(ini);
+            static_cast<void>(f.open(QIODevice::WriteOnly) && f.write(ini));
         }
         mainwindow::MainWindow::Setup setup;
         setup.profilePath = ini_;
@@ -59,15 +75,15 @@ protected:
         auto w = std::make_unique<mainwindow::MainWindow>(setup);
         w->toolkit().waitScale = 0.01;
         w->Form_Load();
-        // Where there is a window manager, it has framed the window by then (else its place
-        // fails).
-        static_cast<void>(QTest::qWaitFor([&w] { return w->frameGeometry() != w->geometry(); }));
+        // Where there is a window manager, it has framed the window by then.
+        if (framed_) framed(w.get());
         return w;
     }
 
     QTemporaryDir dir_;
-    QString oldCwd_, ini_;
+    QString oldCwd_, ini_ = dir_.filePath("config/frostel.ini");
     int exits_ = 0;
+    bool framed_ = true; // false: no window manager to wait for
 };
 
 } // namespace support

@@ -1,0 +1,85 @@
+#pragma once
+// Driving real windows from a test: controls by name, modal windows acted on from the loop that
+// shows them, the focus walked with Tab.
+#include <QAction>
+#include <QApplication>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace support {
+
+// The control of that name inside `window`; a missing one ends the test run.
+template <class T = QWidget> T* child(const QObject* window, const char* name)
+{
+    T* found = window->findChild<T*>(QString::fromLatin1(name));
+    if (!found) qFatal("no control named %s", name);
+    return found;
+}
+
+// Runs `act` on the next modal window of type T once it shows; none within five seconds fails.
+template <class T> void onNextModal(std::function<void(T*)> act)
+{
+    struct Watch : QObject {
+        std::function<void(T*)> act;
+        bool eventFilter(QObject* o, QEvent* e) override
+        {
+            auto* window = qobject_cast<T*>(o);
+            if (e->type() != QEvent::Show || !window || !window->isModal()) return false;
+            // Its own event loop runs once the show is done.
+            QTimer::singleShot(0, window, [act = act, window] { act(window); });
+            deleteLater();
+            qApp->removeEventFilter(this);
+            return false;
+        }
+    };
+    auto* watch = new Watch;
+    watch->act = std::move(act);
+    qApp->installEventFilter(watch);
+    QTimer::singleShot(5000, watch, [watch] {
+        QTest::qFail("no modal window showed", __FILE__, __LINE__);
+        delete watch;
+    });
+}
+
+// Answers the next message box by a key; notes its title and text.
+inline void answerNextBox(Qt::Key key, QStringList* seen = nullptr)
+{
+    onNextModal<QMessageBox>([=](QMessageBox* box) {
+        if (seen) seen->append(box->windowTitle() + ": " + box->text());
+        QTest::keyClick(box, key);
+    });
+}
+
+// Runs `act` once, from the loop, the first time `action` comes up enabled.
+inline void whenEnabled(QAction* action, const std::function<void()>& act)
+{
+    auto once = std::make_shared<QMetaObject::Connection>();
+    *once = QObject::connect(action, &QAction::enabledChanged, action, [=](bool on) {
+        if (on && QObject::disconnect(*once)) QTimer::singleShot(0, action, act);
+    });
+}
+
+// The controls that Tab visits from `first`, by name, until the focus is back.
+inline QStringList tabWalk(QWidget* first)
+{
+    first->setFocus();
+    QStringList walked{first->objectName()};
+    while (walked.size() < 30) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        if (QApplication::focusWidget() == first) break;
+        walked << QApplication::focusWidget()->objectName();
+    }
+    return walked;
+}
+
+inline void doubleClickRow(QListWidget* list, int row)
+{
+    const QPoint at = list->visualItemRect(list->item(row)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at); // as the system sends it
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+}
+
+} // namespace support
