@@ -5,8 +5,6 @@
 // window it sees on standard error, so the caller can check the splash came first.
 #include <QApplication>
 #include <QGenericPlugin>
-#include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -16,7 +14,7 @@ namespace {
 
 class KeyDriver : public QObject {
 public:
-    explicit KeyDriver(const QString& word) : word_(word.toUpper())
+    explicit KeyDriver(const QString& word) : word_(word.toUpper().toLatin1())
     {
         QCoreApplication::instance()->installEventFilter(this);
     }
@@ -24,13 +22,10 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Show && watched->isWidgetType()) {
-            QPointer<QWidget> w = static_cast<QWidget*>(watched);
-            if (w->isWindow())
-                QTimer::singleShot(0, this, [this, w] {
-                    if (w) shown(w);
-                });
-        }
+        auto* w = qobject_cast<QWidget*>(watched);
+        // Told once the show is done; the window itself ends the call if it goes first.
+        if (event->type() == QEvent::Show && w && w->isWindow())
+            QTimer::singleShot(0, w, [this, w] { shown(w); });
         return false;
     }
 
@@ -39,9 +34,9 @@ private:
     {
         std::fprintf(stderr, "keys: window %s \"%s\"\n", qPrintable(w->objectName()),
                      qPrintable(w->windowTitle()));
-        if (auto* box = qobject_cast<QMessageBox*>(w); box && box->windowTitle() == "Program end") {
-            QTest::keyClick(box, Qt::Key_Return); // Yes is the default
-        } else if (w->objectName() == QLatin1String("eisfig") && !main_) {
+        if (w->windowTitle() == "Program end") {
+            QTest::keyClick(w, Qt::Key_Return); // Yes is the default
+        } else if (w->objectName() == "eisfig" && !main_) {
             main_ = w;
             // A compositor gives keyboard focus to a window only where there is a keyboard.
             if (!QApplication::activeWindow()) QApplication::setActiveWindow(w);
@@ -51,28 +46,19 @@ private:
     }
 
     // A letter typed while the word is drawn does nothing; it is typed again until its tile has
-    // gone. The next step is set first: a key that ends the word returns only when the game
-    // does.
+    // gone. The next step is set first: a key that ends the word returns only when the game does.
     void typeNext()
     {
         if (!main_) return;
-        if (next_ == word_.size()) {
-            QTest::keyClick(main_, Qt::Key_E, Qt::ControlModifier);
-            return;
-        }
+        if (next_ == word_.size()) return QTest::keyClick(main_, Qt::Key_E, Qt::ControlModifier);
         QTimer::singleShot(100, this, [this] { typeNext(); });
-        const QChar letter = word_.at(next_);
-        auto* tile =
-            main_->findChild<QLabel*>(QStringLiteral("alpha_%1").arg(letter.unicode() - 'A'));
-        if (tile && !tile->isVisible()) {
-            std::fprintf(stderr, "keys: %c taken\n", char(letter.unicode()));
-            ++next_;
-        } else {
-            QTest::keyClick(main_, char(letter.toLower().unicode()));
-        }
+        const char letter = word_.at(next_);
+        auto* tile = main_->findChild<QWidget*>(QStringLiteral("alpha_%1").arg(letter - 'A'));
+        if (tile && !tile->isVisible()) std::fprintf(stderr, "keys: %c taken\n", letter), ++next_;
+        else QTest::keyClick(main_, char(letter - 'A' + 'a'));
     }
 
-    QString word_;
+    QByteArray word_;
     qsizetype next_ = 0;
     QPointer<QWidget> main_;
 };
