@@ -115,6 +115,11 @@ private slots:
                          qPrintable(href));
             }
         }
+        // The help window searches the pages of the player's language.
+        QLocale::setDefault(locale);
+        const auto hits = mainwindow::HelpWindow().find("schneemann schmilzt");
+        QCOMPARE(hits.isEmpty(), !folder.endsWith("de/"));
+        QLocale::setDefault(QLocale::c());
     }
 };
 

@@ -1,5 +1,6 @@
 // The real main window, offscreen and under a window manager: what a settings file starts, a
-// game played by keys and clicks, the options from the menu, and the end.
+// game played by keys and clicks, help and the options from the menu, and the end.
+#include "mainwindow/help_window.h"
 #include "settings/options_window.h"
 #include "support/files.h"
 #include "support/main_window_start.h"
@@ -9,6 +10,7 @@
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 
 using support::readAll;
 
@@ -37,26 +39,19 @@ class MainWindowTest : public QObject, support::MainWindowStart {
     Q_OBJECT
     std::unique_ptr<mainwindow::MainWindow> w_;
     QAction* action(const char* name) { return support::child<QAction>(w_.get(), name); }
-    void click(int picBut)
-    {
-        QTest::mouseClick(static_cast<QAbstractButton*>(w_->picBut(picBut)), Qt::LeftButton);
-    }
 private slots:
     void init() { QVERIFY(enter()); }
     void cleanup() { w_.reset(), leave(); }
     void startUp_data();
     void startUp();
     void aGameByKeysAndClicks();
-    void optionsDuringAGameAndClosingDuringAWait();
+    void optionsAndClosingWhileAWordWaits();
 };
 
 void MainWindowTest::startUp_data()
 {
     QTest::addColumn<QByteArray>("ini"); // null: no file
     QTest::addColumn<QString>("shown");  // options, scoreboard, word; empty: whatever it reads
-    QTest::newRow("no file") << QByteArray()
-                             << "4 3 1 011 frostel.dat Marta,Helene,Matthis,Svenja "
-                                "Marta,Helene,Matthis,Svenja, 26 tiles APPLE";
     // A stored default name gives way to the game's own.
     QTest::newRow("as stored")
         << QByteArray("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0"
@@ -82,10 +77,9 @@ void MainWindowTest::startUp()
     QFETCH(QString, shown);
     w_ = startWindow(ini);
     core::Game& g = w_->game();
-    QVERIFY(w_->isVisible());
-    QVERIFY(w_->frameGeometry().width() >= 640 && w_->frameGeometry().height() >= 465);
-    // Whole on the screen, within reach.
-    QVERIFY(w_->screen()->availableGeometry().contains(w_->frameGeometry()));
+    QVERIFY(w_->isVisible() && w_->frameGeometry().width() >= 640 &&
+            w_->frameGeometry().height() >= 465);
+    QVERIFY(w_->screen()->availableGeometry().contains(w_->frameGeometry())); // within reach
     QVERIFY(shows(w_->pictureLabel(0), g.g.MotivNr == 0 ? "apfelbaum0" : "eisfigur0"));
     QCOMPARE(readAll(ini_), ini.isNull() ? "<unreadable>" : ini); // nothing written yet
     // A game plays with whatever was read; the tip button stands only where tips are given.
@@ -97,8 +91,7 @@ void MainWindowTest::startUp()
     QTest::keyClick(w_.get(), Qt::Key_Q);
     QVERIFY(g.g.Fehler == 1 && w_->pictureLabel(1)->isVisible());
     w_->close();
-    QCOMPARE(exits_, 1);
-    QVERIFY(readAll(ini_).contains("[Window]"));
+    QVERIFY(exits_ == 1 && readAll(ini_).contains("[Window]"));
 }
 
 void MainWindowTest::aGameByKeysAndClicks()
@@ -108,24 +101,21 @@ void MainWindowTest::aGameByKeysAndClicks()
     QAction* weiter = action("weiter");
     w_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(w_.get()));
-    // No game: letters and Enter do nothing, the tip button only counts; Ctrl+E asks, Esc is No.
-    QVERIFY(!action("tip")->isEnabled() && !weiter->isEnabled());
-    QTest::keyClicks(w_.get(), "a\r");
-    click(2);
-    QVERIFY(g.g.Wort.isEmpty() && g.g.TipZaehler == 1);
+    // Ctrl+E asks; Esc is No.
     QStringList boxes;
     support::answerNextBox(Qt::Key_Escape, &boxes);
     QTest::keyClick(w_.get(), Qt::Key_E, Qt::ControlModifier);
     QVERIFY(exits_ == 0 && boxes == QStringList{"Program end: Really end the game?"});
     // A word by the traffic light; a letter by its key, another by its tile.
-    click(0);
+    QTest::mouseClick(static_cast<QAbstractButton*>(w_->picBut(0)), Qt::LeftButton);
     QVERIFY(g.g.Wort == "APPLE" && action("tip")->isEnabled());
     QTest::keyClick(w_.get(), Qt::Key_P);
     QTest::mouseClick(w_->tileLabel(0), Qt::LeftButton);
     QVERIFY(board(*w_).endsWith(" 24 tiles"));
-    QVERIFY(!w_->tileLabel(0)->isVisible() && !w_->tileLabel(15)->isVisible());
-    QVERIFY(shows(w_->fieldLabel(1), "alpha0") && shows(w_->fieldLabel(2), "alpha15"));
-    QVERIFY(shows(w_->fieldLabel(4), "feld0"));
+    QVERIFY(shows(w_->fieldLabel(1), "alpha0") && shows(w_->fieldLabel(2), "alpha15") &&
+            shows(w_->fieldLabel(4), "feld0"));
+    action("tip")->trigger(); // a letter more, by the menu
+    QVERIFY(board(*w_).endsWith(" 23 tiles"));
     // Solving holds the wait with its button up; Enter ends it.
     bool held = false;
     support::whenEnabled(weiter, [&] {
@@ -135,24 +125,23 @@ void MainWindowTest::aGameByKeysAndClicks()
     QTest::keyClicks(w_.get(), "le");
     QVERIFY(held && !weiter->isEnabled() && !w_->picBut(3)->isVisible());
     QVERIFY(shows(w_->pointLabel(0), "symbol1"));
+    // The help menu: the contents with the search open, and help on help.
+    action("hilfe_1")->trigger();
+    auto* help = w_->findChild<mainwindow::HelpWindow*>();
+    QVERIFY(help->currentPage() == "index.html" && help->searchField()->isVisible());
+    action("hilfe_2")->trigger();
+    QCOMPARE(help->currentPage(), QString("helponhelp.html"));
     // The end from the menu, Enter takes Yes: the window's place is written.
     support::answerNextBox(Qt::Key_Return);
     action("ende")->trigger();
-    QVERIFY(exits_ == 1 && g.ended());
-    QVERIFY(readAll(ini_).contains("[Window]"));
+    QVERIFY(exits_ == 1 && g.ended() && readAll(ini_).contains("[Window]"));
 }
 
-void MainWindowTest::optionsDuringAGameAndClosingDuringAWait()
+void MainWindowTest::optionsAndClosingWhileAWordWaits()
 {
-    w_ = startWindow("[Einstellungen]\r\nSound= 0\r\nMotiv= 1\r\n");
+    w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
     core::Game& g = w_->game();
     action("start")->trigger();
-    QTest::keyClick(w_.get(), Qt::Key_Z);
-    // The apple tree chosen by a double click: the word and its miss stay, in the new pictures.
-    support::onNextModal<settings::OptionsWindow>(
-        [](settings::OptionsWindow* o) { support::doubleClickRow(o->Motiv(), 0); });
-    action("opt")->trigger();
-    QVERIFY(g.g.Fehler == 1 && shows(w_->pictureLabel(1), "apfelbaum1"));
     // Another vocabulary chosen while the solved word waits: a new game on the new list.
     support::whenEnabled(action("weiter"), [&] {
         support::onNextModal<settings::OptionsWindow>(

@@ -1,6 +1,5 @@
-// The options window from the main window's menu, with a word under way: clicks, keys and held
-// spin buttons, which changes start a new game, what OK stores for the next start, what the
-// close box drops.
+// The options window from the menu, with a word under way: clicks, keys and a held spin button,
+// which changes start a new game, what OK stores for the next start, what the close box drops.
 #include "editor/vocabulary_editor.h"
 #include "settings/options_window.h"
 #include "support/files.h"
@@ -70,8 +69,7 @@ private slots:
 void OptionsDialogTest::changes_data()
 {
     QTest::addColumn<Act>("act");       // Enter follows, which is OK, if the window still stands
-    QTest::addColumn<QString>("after"); // the options, ", new game", and, where they differ,
-                                        // " | " and what the next start reads
+    QTest::addColumn<QString>("after"); // "options[, new game][ | at the next start]"
     auto row = [](const char* tag, const QList<Act>& acts, const char* after) {
         const Act all = [=](W* w) {
             for (const Act& act : acts + QList<Act>{keys({Qt::Key_Return})})
@@ -104,8 +102,8 @@ void OptionsDialogTest::changes_data()
     row("Alt+A: all words", {keys({Qt::ALT | Qt::Key_A})}, "4 3 1 111 frostel.dat ~, new game");
     row("Alt+V, Down: vocabulary", {keys({Qt::ALT | Qt::Key_V, Qt::Key_Down})},
         "4 3 1 011 zoo.dat ~, new game");
-    row("Alt+S: sound", {keys({Qt::ALT | Qt::Key_S})}, "4 3 1 001 frostel.dat ~");
-    row("Alt+H: show solution", {keys({Qt::ALT | Qt::Key_H})}, "4 3 1 010 frostel.dat ~");
+    row("Alt+S, Alt+H: sound, show solution", {keys({Qt::ALT | Qt::Key_S, Qt::ALT | Qt::Key_H})},
+        "4 3 1 000 frostel.dat ~");
     row("the counters by the keyboard: Down, Up", {[](W* w) {
             QTest::keyClick(w->plumin()[0], Qt::Key_Down);
             QTest::keyClick(w->plumin()[1], Qt::Key_Down);
@@ -115,8 +113,7 @@ void OptionsDialogTest::changes_data()
         "3 2 1 011 frostel.dat ~, new game");
     row("a double click on a motif is OK", {[](W* w) { support::doubleClickRow(w->Motiv(), 0); }},
         "4 3 0 011 frostel.dat ~");
-    // Centred, with the word files of the start-up; the editor centred over it, and back from
-    // it, the focus on OK.
+    // Centred, with the start-up's word files; the editor over it; back from it, focus on OK.
     row("Tab, the editor", {[](W* w) {
             const QRect outer = support::framed(w);
             QCOMPARE(outer.topLeft(), support::centred(outer.size()));

@@ -2,6 +2,7 @@
 // The real main window started as the program starts it, splash and all, in a working folder
 // with two word files and a settings file of the test's own.
 #include "mainwindow/main_window.h"
+#include "support/files.h"
 #include "vocabulary/word_file.h"
 
 #include <QDir>
@@ -65,8 +66,7 @@ protected:
     {
         if (!ini.isNull()) {
             QDir().mkpath(dir_.filePath("config"));
-            QFile f(ini_);
-            static_cast<void>(f.open(QIODevice::WriteOnly) && f.write(ini));
+            support::writeBytes(ini_, ini);
         }
         mainwindow::MainWindow::Setup setup;
         setup.profilePath = ini_;
@@ -75,8 +75,7 @@ protected:
         auto w = std::make_unique<mainwindow::MainWindow>(setup);
         w->toolkit().waitScale = 0.01;
         w->Form_Load();
-        // Where there is a window manager, it has framed the window by then.
-        if (framed_) framed(w.get());
+        if (framed_) framed(w.get()); // a window manager has framed it by then
         return w;
     }
 

@@ -1,6 +1,5 @@
 #pragma once
-// Driving real windows from a test: controls by name, modal windows acted on from the loop that
-// shows them, the focus walked with Tab.
+// Driving real windows: controls by name, modal windows acted on as they show, Tab walked.
 #include <QAction>
 #include <QApplication>
 #include <QListWidget>
