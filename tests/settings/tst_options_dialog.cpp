@@ -1,6 +1,5 @@
-// The options window from the main window's menu, with a word under way: clicks, keys and held
-// spin buttons, which changes start a new game, what OK stores for the next start, what the
-// close box drops.
+// The options window from the menu, a word under way: clicks, keys, held spin buttons; which
+// changes start a new game, what OK stores for the next start and what the close box drops.
 #include "editor/vocabulary_editor.h"
 #include "settings/options_window.h"
 #include "support/files.h"
