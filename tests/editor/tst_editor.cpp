@@ -1,5 +1,5 @@
-// The vocabulary editor: the word box, the list and the keyboard, and what OK, Save, Cancel and
-// the close box leave in the word file, the game's list and the change flag.
+// The vocabulary editor over a stand-in owner: the word box, the list and the keys, and what OK,
+// Save, Cancel and the close box leave in the word file, the game's list and the change flag.
 #include "editor/vocabulary_editor.h"
 #include "support/files.h"
 #include "support/scripted_toolkit.h"
@@ -7,7 +7,6 @@
 
 #include <QLineEdit>
 #include <QListView>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using editor::VocabularyEditor;
@@ -46,22 +45,20 @@ class EditorTest : public QObject {
         editor::showEditor(game_, tk_, &options_);
     }
 private slots:
-    void init();
+    void init()
+    {
+        dir_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir::setCurrent(dir_->path()));
+        game_.g = core::Global{};
+        game_.List1 = {"leftover"};
+        tk_.log.clear(), tk_.answers.clear();
+        options_.show();
+    }
     void cleanup() { QDir::setCurrent(home_), delete options_.findChild<VocabularyEditor*>(); }
     void wordBoxListAndKeys();
     void closing_data();
     void closing();
 };
-
-void EditorTest::init()
-{
-    dir_ = std::make_unique<QTemporaryDir>();
-    QVERIFY(QDir::setCurrent(dir_->path()));
-    game_.g = core::Global{};
-    game_.List1 = {"leftover"};
-    tk_.log.clear(), tk_.answers.clear();
-    options_.show();
-}
 
 void EditorTest::wordBoxListAndKeys()
 {
@@ -168,7 +165,7 @@ void EditorTest::closing()
     QVERIFY(QDir("folder.dat/keep").exists());
     // OK only hides the editor; Cancel and the close box unload it.
     QCOMPARE(options_.findChild<VocabularyEditor*>() != nullptr,
-             QString(steps).remove(QRegularExpression("[A-Z]")).endsWith('o'));
+             steps.contains('o') && !steps.endsWith('c'));
 }
 
 QTEST_MAIN(EditorTest)

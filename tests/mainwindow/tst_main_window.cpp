@@ -7,7 +7,6 @@
 #include "support/windows.h"
 #include "widgets/pictures.h"
 
-#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -52,6 +51,9 @@ void MainWindowTest::startUp_data()
 {
     QTest::addColumn<QByteArray>("ini"); // null: no file
     QTest::addColumn<QString>("shown");  // options, scoreboard, word; empty: whatever it reads
+    const QString fresh = "4 3 1 011 frostel.dat Marta,Helene,Matthis,Svenja "
+                          "Marta,Helene,Matthis,Svenja, 26 tiles APPLE";
+    QTest::newRow("no file") << QByteArray() << fresh;
     // A stored default name gives way to the game's own.
     QTest::newRow("as stored")
         << QByteArray("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0"
@@ -59,9 +61,7 @@ void MainWindowTest::startUp_data()
                       "Spieler1=Spieler 3\r\nSpieler2=Kim\r\nDatei=zoo.dat")
         << "2 0 0 100 zoo.dat Marta,Kim,Matthis,Svenja Marta,Kim, 26 tiles GNU";
     // The stored name counts only as it is spelled.
-    QTest::newRow("case counts") << QByteArray("[Einstellungen]\r\nDatei=ZOO.dat\r\n")
-                                 << "4 3 1 011 frostel.dat Marta,Helene,Matthis,Svenja "
-                                    "Marta,Helene,Matthis,Svenja, 26 tiles APPLE";
+    QTest::newRow("case counts") << QByteArray("[Einstellungen]\r\nDatei=ZOO.dat\r\n") << fresh;
     QTest::newRow("hand-edited")
         << QByteArray("\x00\xff\x13[Win\x00dow]\nStatus=\x01", 20) +
                "\n[Window]\r\nStatus= 7\r\nWidth=-5\r\nHeight= 99999999\r\n"
@@ -77,9 +77,7 @@ void MainWindowTest::startUp()
     QFETCH(QString, shown);
     w_ = startWindow(ini);
     core::Game& g = w_->game();
-    QVERIFY(w_->isVisible() && w_->frameGeometry().width() >= 640 &&
-            w_->frameGeometry().height() >= 465);
-    QVERIFY(w_->screen()->availableGeometry().contains(w_->frameGeometry())); // within reach
+    QVERIFY(w_->isVisible());
     QVERIFY(shows(w_->pictureLabel(0), g.g.MotivNr == 0 ? "apfelbaum0" : "eisfigur0"));
     QCOMPARE(readAll(ini_), ini.isNull() ? "<unreadable>" : ini); // nothing written yet
     // A game plays with whatever was read; the tip button stands only where tips are given.
@@ -90,8 +88,8 @@ void MainWindowTest::startUp()
     }
     QTest::keyClick(w_.get(), Qt::Key_Q);
     QVERIFY(g.g.Fehler == 1 && w_->pictureLabel(1)->isVisible());
-    w_->close();
-    QVERIFY(exits_ == 1 && readAll(ini_).contains("[Window]"));
+    w_->close(); // over whatever the file held
+    QVERIFY(readAll(ini_).contains("[Window]"));
 }
 
 void MainWindowTest::aGameByKeysAndClicks()
@@ -101,21 +99,23 @@ void MainWindowTest::aGameByKeysAndClicks()
     QAction* weiter = action("weiter");
     w_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(w_.get()));
-    // Ctrl+E asks; Esc is No.
+    // No game: letters and Enter do nothing, the tip button only counts; Ctrl+E asks, Esc is No.
+    QVERIFY(!action("tip")->isEnabled() && !weiter->isEnabled());
+    QTest::keyClicks(w_.get(), "a\r");
+    QTest::mouseClick(w_->picBut(2), Qt::LeftButton);
+    QVERIFY(g.g.Wort.isEmpty() && g.g.TipZaehler == 1);
     QStringList boxes;
     support::answerNextBox(Qt::Key_Escape, &boxes);
     QTest::keyClick(w_.get(), Qt::Key_E, Qt::ControlModifier);
     QVERIFY(exits_ == 0 && boxes == QStringList{"Program end: Really end the game?"});
     // A word by the traffic light; a letter by its key, another by its tile.
-    QTest::mouseClick(static_cast<QAbstractButton*>(w_->picBut(0)), Qt::LeftButton);
+    QTest::mouseClick(w_->picBut(0), Qt::LeftButton);
     QVERIFY(g.g.Wort == "APPLE" && action("tip")->isEnabled());
     QTest::keyClick(w_.get(), Qt::Key_P);
     QTest::mouseClick(w_->tileLabel(0), Qt::LeftButton);
     QVERIFY(board(*w_).endsWith(" 24 tiles"));
-    QVERIFY(shows(w_->fieldLabel(1), "alpha0") && shows(w_->fieldLabel(2), "alpha15") &&
-            shows(w_->fieldLabel(4), "feld0"));
-    action("tip")->trigger(); // a letter more, by the menu
-    QVERIFY(board(*w_).endsWith(" 23 tiles"));
+    QVERIFY(shows(w_->fieldLabel(1), "alpha0") && shows(w_->fieldLabel(2), "alpha15"));
+    QVERIFY(shows(w_->fieldLabel(4), "feld0"));
     // Solving holds the wait with its button up; Enter ends it.
     bool held = false;
     support::whenEnabled(weiter, [&] {
