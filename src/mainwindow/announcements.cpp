@@ -6,11 +6,8 @@ Seen Announcer::look(const core::Game& game)
 {
     Seen s;
     const auto& fields = game.board.Feld;
-    for (size_t i = 1; i < fields.size(); ++i) {
-        if (!fields[i].loaded) continue;
-        const int p = fields[i].picture;
-        s.shown += p < 0 ? QChar(' ') : core::tileTag(p);
-    }
+    for (size_t i = 1; i < fields.size(); ++i)
+        if (fields[i].loaded) s.shown += shown(fields[i]);
     s.word = s.shown.isEmpty() ? QString() : game.g.Wort;
     for (int t = 0; t < core::kLetters; ++t)
         if (!game.board.alpha[t].Visible && !game.g.Wort.contains(core::tileTag(t)))
@@ -56,6 +53,11 @@ QStringList Announcer::changes(const Seen& before, const Seen& after, const core
     }
     if (after.turn != before.turn) out << tr("%1's turn").arg(name(after.turn));
     return out;
+}
+
+QChar Announcer::shown(const core::Field& field)
+{
+    return field.picture < 0 ? QChar(' ') : core::tileTag(field.picture);
 }
 
 QString Announcer::tileName(int tile) { return tr("Letter %1").arg(core::tileTag(tile)); }

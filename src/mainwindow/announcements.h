@@ -28,6 +28,8 @@ public:
     // What changed from `before` to `after`, in the order a player takes it in.
     static QStringList changes(const Seen& before, const Seen& after, const core::Game& game);
 
+    // What a field shows: its letter, or ' ' while covered.
+    static QChar shown(const core::Field& field);
     static QString tileName(int tile);
     static QString fieldName(int index, int letters, QChar shown);
     static QString playerName(const core::Game& game, int player);

@@ -104,8 +104,8 @@ void MainWindow::syncFields()
         }
         label->setVisible(i > 0 && f.Visible);
         if (i > 0) {
-            const QChar shown = f.picture < 0 ? QChar(' ') : core::tileTag(f.picture);
-            setName(label, Announcer::fieldName(int(i), int(fields.size()) - 1, shown));
+            setName(label,
+                    Announcer::fieldName(int(i), int(fields.size()) - 1, Announcer::shown(f)));
         }
     }
 }

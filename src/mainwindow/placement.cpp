@@ -42,9 +42,7 @@ int16_t MainWindow::restorePlace()
     const QScreen* screen = QGuiApplication::screenAt(
         QPoint(twipsToPixels(double(stored.left)), twipsToPixels(double(stored.top))));
     if (!screen) screen = QGuiApplication::primaryScreen();
-    const QRect place =
-        fitToScreen({int(stored.left), int(stored.top), stored.width, stored.height},
-                    available(screen), design);
+    const QRect place = fitToScreen(stored, available(screen), design);
     setOuterSize(place.width(), place.height());
     // Before the window is made, a move places the corner of its frame.
     move(twipsToPixels(double(place.x())), twipsToPixels(double(place.y())));

@@ -27,7 +27,7 @@ QPoint centreOf(const QRect& screen, const QSize& size)
             screen.top() + (screen.height() - size.height()) / 2};
 }
 
-QRect fitToScreen(const StoredPlace& stored, const QRect& screen, const QSize& minimum)
+QRect fitToScreen(const settings::WindowPlace& stored, const QRect& screen, const QSize& minimum)
 {
     const QPoint centre = centreOf(screen, minimum);
     const Span x =

@@ -31,8 +31,8 @@ void readWindowPlace(const Profile& profile, WindowPlace& place, long long centr
     };
     place.left = read("Left", centreLeft);
     place.top = read("Top", centreTop);
-    place.width = read("Width", 9600);
-    place.height = read("Height", 6900);
+    place.width = read("Width", WindowPlace{}.width);
+    place.height = read("Height", WindowPlace{}.height);
 }
 
 void writeWindowPlace(Profile& profile, const WindowPlace& place)

@@ -8,10 +8,10 @@
 #include <QLabel>
 #include <limits>
 
-using mainwindow::StoredPlace;
+using StoredPlace = settings::WindowPlace;
 using support::tw;
 
-Q_DECLARE_METATYPE(mainwindow::StoredPlace)
+Q_DECLARE_METATYPE(settings::WindowPlace)
 
 class WindowPlaceTest : public QObject, support::MainWindowStart {
     Q_OBJECT
@@ -113,18 +113,19 @@ void WindowPlaceTest::fitsTheScreen_data()
     const QRect s(0, 0, 15360, 11520); // 1024 x 768 pixels
     const int far = std::numeric_limits<int>::max(), near = std::numeric_limits<int>::min();
     QTest::newRow("on the right edge exactly, one twip below the bottom: only the top centred")
-        << StoredPlace{5760, 4546, 9600, 6975} << s << QRect(5760, 2272, 9600, 6975);
+        << StoredPlace{0, 5760, 4546, 9600, 6975} << s << QRect(5760, 2272, 9600, 6975);
     QTest::newRow("smaller than the design, or below zero: the design size")
-        << StoredPlace{750, 600, -5, 100} << s << QRect(750, 600, 9600, 6975);
+        << StoredPlace{0, 750, 600, -5, 100} << s << QRect(750, 600, 9600, 6975);
     QTest::newRow("wider and taller than the screen, far off: as large, from its corner")
-        << StoredPlace{far, near, far, 99999999} << s << QRect(0, 0, 15360, 11520);
+        << StoredPlace{0, far, near, far, 99999999} << s << QRect(0, 0, 15360, 11520);
     QTest::newRow("a corner off the screen: centred, moved in to stand whole")
-        << StoredPlace{-15, 600, 14000, 7425} << s << QRect(1360, 600, 14000, 7425);
+        << StoredPlace{0, -15, 600, 14000, 7425} << s << QRect(1360, 600, 14000, 7425);
     QTest::newRow("a second screen under a panel: judged and centred on its own")
-        << StoredPlace{15660, 300, 9600, 6975} << QRect(15360, 450, 19200, 10800)
+        << StoredPlace{0, 15660, 300, 9600, 6975} << QRect(15360, 450, 19200, 10800)
         << QRect(15660, 2362, 9600, 6975);
     QTest::newRow("a screen smaller than the design: the design size, from its corner")
-        << StoredPlace{300, 300, 9600, 6975} << QRect(0, 0, 9000, 6000) << QRect(0, 0, 9600, 6975);
+        << StoredPlace{0, 300, 300, 9600, 6975} << QRect(0, 0, 9000, 6000)
+        << QRect(0, 0, 9600, 6975);
 }
 
 void WindowPlaceTest::fitsTheScreen()
