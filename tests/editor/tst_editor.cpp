@@ -34,16 +34,10 @@ class EditorTest : public QObject {
     void edit(const QString& file, const std::function<void(VocabularyEditor*)>& act)
     {
         game_.g.WortDatei = file;
-        QObject running; // an editor left open fails, not hangs
-        auto editor = [this] { return options_.findChild<VocabularyEditor*>(); };
-        QTimer::singleShot(0, &running, [&] {
-            QApplication::setActiveWindow(editor());
-            QVERIFY(QTest::qWaitForWindowActive(editor()));
-            act(editor());
-        });
-        QTimer::singleShot(5000, &running, [&] { editor()->close(); });
+        support::onNextModal<VocabularyEditor>(act);
         editor::showEditor(game_, tk_, &options_);
     }
+
 private slots:
     void init()
     {
@@ -55,118 +49,119 @@ private slots:
         options_.show();
     }
     void cleanup() { QDir::setCurrent(home_), delete options_.findChild<VocabularyEditor*>(); }
-    void wordBoxListAndKeys();
-    void closing_data();
-    void closing();
+
+    void wordBoxListAndKeys()
+    {
+        support::writeBytes("words.dat", "pear\r\nApple\r\nzebra,apple\r\n\xC4pfel\r\nMa\xDF\r\n"
+                                         "\"b,a\"\r\npear\r\n" +
+                                             QByteArray(21, 'x'));
+        QStringList seen; // the box and the list at each step
+        edit("words.dat", [&](VocabularyEditor* e) {
+            auto* box = support::child<QLineEdit>(e, "Text1");
+            auto* list = support::child<QListView>(e, "List1");
+            auto row = [list](int i) { return list->visualRect(list->model()->index(i, 0)); };
+            // Tab passes over Delete while it is disabled.
+            seen << support::tabWalk(box).join(' ');
+            type(box, "AbzÄöüß1 ,\"-'.éñÿ"); // letters and umlauts only
+            box->setCursorPosition(0);       // control keys pass, so Delete still deletes
+            QTest::sendKeyEvent(QTest::Click, box, Qt::Key_Delete, QString(QChar(127)), {});
+            seen << box->text();
+            box->setText("Donaudampfschiffahrt");
+            QTest::keyClick(box, Qt::Key_Return); // the default button: into its place
+            seen << e->words().join(',');
+            for (int i = 0; i < e->words().size(); ++i) // each word has room for all its letters
+                QVERIFY(row(i).width() >= list->fontMetrics().horizontalAdvance(e->words()[i]));
+            QVERIFY(box->text().isEmpty() && QApplication::focusWidget() == box);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row(1).center());
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                              row(5).center());
+            QTest::keyClick(e, Qt::Key_D, Qt::AltModifier); // clicks a moment later
+            QTRY_VERIFY(QApplication::focusWidget() == list);
+            box->setCursorPosition(2); // the focus selects from the cursor to the end
+            QTest::keyClick(list, Qt::Key_Backtab);
+            seen << box->selectedText();
+            QTest::keyClick(e, Qt::Key_A, Qt::AltModifier); // the last word clicked comes back
+            QTRY_COMPARE(e->words().size(), qsizetype(7));
+            seen << e->words().join(',');
+            e->close();
+        });
+        QCOMPARE(seen, QStringList({"Text1 List1 Hinzuf Speichern OK Abbruch", "bzÄöü",
+                                    "Äpfel,apple,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra",
+                                    "ar", "Äpfel,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra"}));
+        QVERIFY(tk_.boxes().isEmpty() && game_.g.Geaendert &&
+                game_.List1 == QStringList{"leftover"});
+    }
+
+    void closing_data()
+    {
+        QTest::addColumn<QString>("file");  // "folder.dat" is a folder
+        QTest::addColumn<QString>("steps"); // an action a letter; the answers to "Save changes?"
+        QTest::addColumn<QString>("after"); // the game's list, the change flag, the boxes, the file
+        auto row = [](const char* tag, const char* file, const char* steps, const QString& after) {
+            QTest::newRow(tag) << file << steps << after;
+        };
+        // The blank line comes back, "Maß" is filtered away, "Öl" is one byte.
+        row("OK unchanged: no question", "words.dat", "o", ",apple,pear 0 | old");
+        row("Delete, OK, Yes saves", "words.dat", "doY", ",pear 0 ? | \r\npear\r\n");
+        row("OK changed, No keeps the file", "words.dat", "aoN", ",apple,Öl,pear 1 ? | old");
+        row("Esc cancels: the changes go", "words.dat", "ae", "leftover 0 | old");
+        row("the close box keeps the flag", "words.dat", "ax", "leftover 1 | old");
+        row("no name: eisfig.dat", "", "c", "leftover 0 | ice\r\n");
+        row("zero bytes", "empty.dat", "c", "leftover 0 box 48 Fehler!: Input past end of file |");
+        row("Save makes a missing file", "new.dat", "asc",
+            "Öl 0 box 48 Fehler!: Datei new.dat nicht gefunden! | Öl\r\n");
+        // A failed save says so and keeps the window; the game gets the list all the same.
+        row("Save fails: a folder in the way", "folder.dat", "asoYc",
+            "Öl 0 box 48 Fehler!: Path/File access error,!,?,! | <unreadable>");
+    }
+
+    void closing()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, steps);
+        QFETCH(QString, after);
+        const QByteArray old = "pear\r\n\r\nMa\xDF\r\napple\r\n";
+        for (auto [name, bytes] :
+             {std::pair{"words.dat", old}, {"eisfig.dat", "ice\r\n"}, {"empty.dat", ""}})
+            support::writeBytes(name, bytes);
+        QDir().mkpath("folder.dat/keep");
+        for (QChar c : steps)
+            if (c.isUpper()) tk_.answers.push_back(c == 'Y' ? core::kAnswerYes : core::kAnswerNo);
+        edit(file, [&](VocabularyEditor* e) {
+            auto press = [e](const char* name) { support::child<QPushButton>(e, name)->click(); };
+            auto* list = support::child<QListView>(e, "List1");
+            for (QChar step : steps) {
+                if (!e->isVisible()) break; // a hidden window takes no clicks
+                if (step == 'a') type(support::child(e, "Text1"), "Öl"), press("Hinzuf");
+                if (step == 'd') list->setCurrentIndex(list->model()->index(1, 0)), press("Loesch");
+                if (step == 's') press("Speichern");
+                if (step == 'o') press("OK");
+                if (step == 'c') press("Abbruch");
+                if (step == 'e') QTest::keyClick(list, Qt::Key_Escape);
+                if (step == 'x') e->close();
+            }
+        });
+        const QString name = file.isEmpty() ? "eisfig.dat" : file;
+        QString boxes = tk_.boxes().join(',');
+        boxes.replace("box 36 " + name + ": Save changes?", "?")
+            .replace("box 48 Fehler!: Datei " + name +
+                         " nicht gespeichert!\rPath/File access error",
+                     "!");
+        const QByteArray bytes = support::readAll(name);
+        QCOMPARE(QString("%1 %2%3 |%4")
+                     .arg(game_.List1.join(','))
+                     .arg(int(game_.g.Geaendert))
+                     .arg(boxes.isEmpty() ? "" : ' ' + boxes,
+                          bytes.isEmpty()
+                              ? ""
+                              : ' ' + (bytes == old ? "old" : QString::fromLatin1(bytes))),
+                 after);
+        QVERIFY(QDir("folder.dat/keep").exists());
+        // OK only hides the editor; Cancel and the close box unload it.
+        QCOMPARE(options_.findChild<VocabularyEditor*>() != nullptr,
+                 steps.contains('o') && !steps.endsWith('c'));
+    }
 };
-
-void EditorTest::wordBoxListAndKeys()
-{
-    support::writeBytes("words.dat", "pear\r\nApple\r\nzebra,apple\r\n\xC4pfel\r\nMa\xDF\r\n"
-                                     "\"b,a\"\r\npear\r\n" +
-                                         QByteArray(21, 'x'));
-    QStringList seen; // the box and the list at each step
-    edit("words.dat", [&](VocabularyEditor* e) {
-        auto* box = support::child<QLineEdit>(e, "Text1");
-        auto* list = support::child<QListView>(e, "List1");
-        auto row = [list](int i) { return list->visualRect(list->model()->index(i, 0)); };
-        // Tab passes over Delete while it is disabled.
-        seen << support::tabWalk(box).join(' ');
-        type(box, "AbzÄöüß1 ,\"-'.éñÿ"); // letters and umlauts only
-        box->setCursorPosition(0);       // control keys pass, so Delete still deletes
-        QTest::sendKeyEvent(QTest::Click, box, Qt::Key_Delete, QString(QChar(127)), {});
-        seen << box->text();
-        box->setText("Donaudampfschiffahrt");
-        QTest::keyClick(box, Qt::Key_Return); // the default button: into its place
-        seen << e->words().join(',');
-        for (int i = 0; i < e->words().size(); ++i) // each word has room for all its letters
-            QVERIFY(row(i).width() >= list->fontMetrics().horizontalAdvance(e->words()[i]));
-        QVERIFY(box->text().isEmpty() && QApplication::focusWidget() == box);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row(1).center());
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, row(5).center());
-        QTest::keyClick(e, Qt::Key_D, Qt::AltModifier); // clicks a moment later
-        QTRY_VERIFY(QApplication::focusWidget() == list);
-        box->setCursorPosition(2); // the focus selects from the cursor to the end
-        QTest::keyClick(list, Qt::Key_Backtab);
-        seen << box->selectedText();
-        QTest::keyClick(e, Qt::Key_A, Qt::AltModifier); // the last word clicked comes back
-        QTRY_COMPARE(e->words().size(), qsizetype(7));
-        seen << e->words().join(',');
-        e->close();
-    });
-    QCOMPARE(seen, QStringList({"Text1 List1 Hinzuf Speichern OK Abbruch", "bzÄöü",
-                                "Äpfel,apple,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra", "ar",
-                                "Äpfel,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra"}));
-    QVERIFY(tk_.boxes().isEmpty() && game_.g.Geaendert && game_.List1 == QStringList{"leftover"});
-}
-
-void EditorTest::closing_data()
-{
-    QTest::addColumn<QString>("file");  // "folder.dat" is a folder
-    QTest::addColumn<QString>("steps"); // an action a letter; the answers to "Save changes?"
-    QTest::addColumn<QString>("after"); // the game's list, the change flag, the boxes, the file
-    auto row = [](const char* tag, const char* file, const char* steps, const QString& after) {
-        QTest::newRow(tag) << file << steps << after;
-    };
-    // The blank line comes back, "Maß" is filtered away, "Öl" is one byte.
-    row("OK unchanged: no question", "words.dat", "o", ",apple,pear 0 | old");
-    row("Delete, OK, Yes saves", "words.dat", "doY", ",pear 0 ? | \r\npear\r\n");
-    row("OK changed, No keeps the file", "words.dat", "aoN", ",apple,Öl,pear 1 ? | old");
-    row("Esc cancels: the changes go", "words.dat", "ae", "leftover 0 | old");
-    row("the close box keeps the flag", "words.dat", "ax", "leftover 1 | old");
-    row("no name: eisfig.dat", "", "c", "leftover 0 | ice\r\n");
-    row("zero bytes", "empty.dat", "c", "leftover 0 box 48 Fehler!: Input past end of file |");
-    row("Save makes a missing file", "new.dat", "asc",
-        "Öl 0 box 48 Fehler!: Datei new.dat nicht gefunden! | Öl\r\n");
-    // A failed save says so and keeps the window; the game gets the list all the same.
-    row("Save fails: a folder in the way", "folder.dat", "asoYc",
-        "Öl 0 box 48 Fehler!: Path/File access error,!,?,! | <unreadable>");
-}
-
-void EditorTest::closing()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, steps);
-    QFETCH(QString, after);
-    const QByteArray old = "pear\r\n\r\nMa\xDF\r\napple\r\n";
-    for (auto [name, bytes] :
-         {std::pair{"words.dat", old}, {"eisfig.dat", "ice\r\n"}, {"empty.dat", ""}})
-        support::writeBytes(name, bytes);
-    QDir().mkpath("folder.dat/keep");
-    for (QChar c : steps)
-        if (c.isUpper()) tk_.answers.push_back(c == 'Y' ? core::kAnswerYes : core::kAnswerNo);
-    edit(file, [&](VocabularyEditor* e) {
-        auto press = [e](const char* name) { support::child<QPushButton>(e, name)->click(); };
-        auto* list = support::child<QListView>(e, "List1");
-        for (QChar step : steps) {
-            if (!e->isVisible()) break; // a hidden window takes no clicks
-            if (step == 'a') type(support::child(e, "Text1"), "Öl"), press("Hinzuf");
-            if (step == 'd') list->setCurrentIndex(list->model()->index(1, 0)), press("Loesch");
-            if (step == 's') press("Speichern");
-            if (step == 'o') press("OK");
-            if (step == 'c') press("Abbruch");
-            if (step == 'e') QTest::keyClick(list, Qt::Key_Escape);
-            if (step == 'x') e->close();
-        }
-    });
-    const QString name = file.isEmpty() ? "eisfig.dat" : file;
-    QString boxes = tk_.boxes().join(',');
-    boxes.replace("box 36 " + name + ": Save changes?", "?")
-        .replace("box 48 Fehler!: Datei " + name + " nicht gespeichert!\rPath/File access error",
-                 "!");
-    const QByteArray bytes = support::readAll(name);
-    QCOMPARE(
-        QString("%1 %2%3 |%4")
-            .arg(game_.List1.join(','))
-            .arg(int(game_.g.Geaendert))
-            .arg(boxes.isEmpty() ? "" : ' ' + boxes,
-                 bytes.isEmpty() ? "" : ' ' + (bytes == old ? "old" : QString::fromLatin1(bytes))),
-        after);
-    QVERIFY(QDir("folder.dat/keep").exists());
-    // OK only hides the editor; Cancel and the close box unload it.
-    QCOMPARE(options_.findChild<VocabularyEditor*>() != nullptr,
-             steps.contains('o') && !steps.endsWith('c'));
-}
 
 QTEST_MAIN(EditorTest)
 #include "tst_editor.moc"

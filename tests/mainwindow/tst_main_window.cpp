@@ -2,7 +2,6 @@
 // game played by keys and clicks, help and the options from the menu, and the end.
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"
-#include "support/files.h"
 #include "support/main_window_start.h"
 #include "support/windows.h"
 #include "widgets/pictures.h"
@@ -41,128 +40,128 @@ class MainWindowTest : public QObject, support::MainWindowStart {
 private slots:
     void init() { QVERIFY(enter()); }
     void cleanup() { w_.reset(), leave(); }
-    void startUp_data();
-    void startUp();
-    void aGameByKeysAndClicks();
-    void optionsAndClosingWhileAWordWaits();
-};
 
-void MainWindowTest::startUp_data()
-{
-    QTest::addColumn<QByteArray>("ini"); // null: no file
-    QTest::addColumn<QString>("shown");  // options, scoreboard, word; empty: whatever it reads
-    const QString fresh = "4 3 1 011 frostel.dat Marta,Helene,Matthis,Svenja "
-                          "Marta,Helene,Matthis,Svenja, 26 tiles APPLE";
-    QTest::newRow("no file") << QByteArray() << fresh;
-    // A stored default name gives way to the game's own.
-    QTest::newRow("as stored")
-        << QByteArray("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0"
-                      "\r\nWiederholung=-1\r\nSound= 0\r\nAnzeige= 0\r\n"
-                      "Spieler1=Spieler 3\r\nSpieler2=Kim\r\nDatei=zoo.dat")
-        << "2 0 0 100 zoo.dat Marta,Kim,Matthis,Svenja Marta,Kim, 26 tiles GNU";
-    // The stored name counts only as it is spelled.
-    QTest::newRow("case counts") << QByteArray("[Einstellungen]\r\nDatei=ZOO.dat\r\n") << fresh;
-    QTest::newRow("hand-edited")
-        << QByteArray("\x00\xff\x13[Win\x00dow]\nStatus=\x01", 20) +
-               "\n[Window]\r\nStatus= 7\r\nWidth=-5\r\nHeight= 99999999\r\n"
-               "[Einstellungen]\r\nAnzahl= 9\r\nTips=-4\r\nMotiv= 3\r\n"
-               "Sound= 5\r\nDatei\r\n" +
-               QByteArray(10240, 'z')
-        << QString();
-}
-
-void MainWindowTest::startUp()
-{
-    QFETCH(QByteArray, ini);
-    QFETCH(QString, shown);
-    w_ = startWindow(ini);
-    core::Game& g = w_->game();
-    QVERIFY(w_->isVisible());
-    QVERIFY(shows(w_->pictureLabel(0), g.g.MotivNr == 0 ? "apfelbaum0" : "eisfigur0"));
-    QCOMPARE(readAll(ini_), ini.isNull() ? "<unreadable>" : ini); // nothing written yet
-    // A game plays with whatever was read; the tip button stands only where tips are given.
-    action("start")->trigger();
-    if (!shown.isEmpty()) {
-        QCOMPARE(support::optionsLine(g) + ' ' + board(*w_) + ' ' + g.g.Wort, shown);
-        QCOMPARE(w_->picBut(2)->isVisible(), g.g.AnzTips > 0);
+    void startUp_data()
+    {
+        QTest::addColumn<QByteArray>("ini"); // null: no file
+        QTest::addColumn<QString>("shown");  // options, scoreboard, word; empty: whatever it reads
+        const QString fresh = "4 3 1 011 frostel.dat Marta,Helene,Matthis,Svenja "
+                              "Marta,Helene,Matthis,Svenja, 26 tiles APPLE";
+        QTest::newRow("no file") << QByteArray() << fresh;
+        // A stored default name gives way to the game's own.
+        QTest::newRow("as stored")
+            << QByteArray("[Einstellungen]\r\nAnzahl= 2\r\nTips= 0\r\nMotiv= 0"
+                          "\r\nWiederholung=-1\r\nSound= 0\r\nAnzeige= 0\r\n"
+                          "Spieler1=Spieler 3\r\nSpieler2=Kim\r\nDatei=zoo.dat")
+            << "2 0 0 100 zoo.dat Marta,Kim,Matthis,Svenja Marta,Kim, 26 tiles GNU";
+        // The stored name counts only as it is spelled.
+        QTest::newRow("case counts") << QByteArray("[Einstellungen]\r\nDatei=ZOO.dat\r\n") << fresh;
+        QTest::newRow("hand-edited")
+            << QByteArray("\x00\xff\x13[Win\x00dow]\nStatus=\x01", 20) +
+                   "\n[Window]\r\nStatus= 7\r\nWidth=-5\r\nHeight= 99999999\r\n"
+                   "[Einstellungen]\r\nAnzahl= 9\r\nTips=-4\r\nMotiv= 3\r\n"
+                   "Sound= 5\r\nDatei\r\n" +
+                   QByteArray(10240, 'z')
+            << QString();
     }
-    QTest::keyClick(w_.get(), Qt::Key_Q);
-    QVERIFY(g.g.Fehler == 1 && w_->pictureLabel(1)->isVisible());
-    w_->close(); // over whatever the file held
-    QVERIFY(readAll(ini_).contains("[Window]"));
-}
 
-void MainWindowTest::aGameByKeysAndClicks()
-{
-    w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
-    core::Game& g = w_->game();
-    QAction* weiter = action("weiter");
-    w_->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(w_.get()));
-    // No game: letters and Enter do nothing, the tip button only counts; Ctrl+E asks, Esc is No.
-    QVERIFY(!action("tip")->isEnabled() && !weiter->isEnabled());
-    QTest::keyClicks(w_.get(), "a\r");
-    QTest::mouseClick(w_->picBut(2), Qt::LeftButton);
-    QVERIFY(g.g.Wort.isEmpty() && g.g.TipZaehler == 1);
-    QStringList boxes;
-    support::answerNextBox(Qt::Key_Escape, &boxes);
-    QTest::keyClick(w_.get(), Qt::Key_E, Qt::ControlModifier);
-    QVERIFY(exits_ == 0 && boxes == QStringList{"Program end: Really end the game?"});
-    // A word by the traffic light; a letter by its key, another by its tile.
-    QTest::mouseClick(w_->picBut(0), Qt::LeftButton);
-    QVERIFY(g.g.Wort == "APPLE" && action("tip")->isEnabled());
-    QTest::keyClick(w_.get(), Qt::Key_P);
-    QTest::mouseClick(w_->tileLabel(0), Qt::LeftButton);
-    QVERIFY(board(*w_).endsWith(" 24 tiles"));
-    QVERIFY(shows(w_->fieldLabel(1), "alpha0") && shows(w_->fieldLabel(2), "alpha15"));
-    QVERIFY(shows(w_->fieldLabel(4), "feld0"));
-    // Solving holds the wait with its button up; Enter ends it.
-    bool held = false;
-    support::whenEnabled(weiter, [&] {
-        held = w_->picBut(3)->isVisible();
-        QTest::keyClick(w_.get(), Qt::Key_Return);
-    });
-    QTest::keyClicks(w_.get(), "le");
-    QVERIFY(held && !weiter->isEnabled() && !w_->picBut(3)->isVisible());
-    QVERIFY(shows(w_->pointLabel(0), "symbol1"));
-    // The help menu: the contents with the search open, and help on help.
-    action("hilfe_1")->trigger();
-    auto* help = w_->findChild<mainwindow::HelpWindow*>();
-    QVERIFY(help->currentPage() == "index.html" && help->searchField()->isVisible());
-    action("hilfe_2")->trigger();
-    QCOMPARE(help->currentPage(), QString("helponhelp.html"));
-    // The end from the menu, Enter takes Yes: the window's place is written.
-    support::answerNextBox(Qt::Key_Return);
-    action("ende")->trigger();
-    QVERIFY(exits_ == 1 && g.ended() && readAll(ini_).contains("[Window]"));
-}
+    void startUp()
+    {
+        QFETCH(QByteArray, ini);
+        QFETCH(QString, shown);
+        w_ = startWindow(ini);
+        core::Game& g = w_->game();
+        QVERIFY(w_->isVisible());
+        QVERIFY(shows(w_->pictureLabel(0), g.g.MotivNr == 0 ? "apfelbaum0" : "eisfigur0"));
+        QCOMPARE(readAll(ini_), ini.isNull() ? "<unreadable>" : ini); // nothing written yet
+        // A game plays with whatever was read; the tip button stands only where tips are given.
+        action("start")->trigger();
+        if (!shown.isEmpty()) {
+            QCOMPARE(support::optionsLine(g) + ' ' + board(*w_) + ' ' + g.g.Wort, shown);
+            QCOMPARE(w_->picBut(2)->isVisible(), g.g.AnzTips > 0);
+        }
+        QTest::keyClick(w_.get(), Qt::Key_Q);
+        QVERIFY(g.g.Fehler == 1 && w_->pictureLabel(1)->isVisible());
+        w_->close(); // over whatever the file held
+        QVERIFY(readAll(ini_).contains("[Window]"));
+    }
 
-void MainWindowTest::optionsAndClosingWhileAWordWaits()
-{
-    w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
-    core::Game& g = w_->game();
-    action("start")->trigger();
-    // Another vocabulary chosen while the solved word waits: a new game on the new list.
-    support::whenEnabled(action("weiter"), [&] {
-        support::onNextModal<settings::OptionsWindow>(
-            [](settings::OptionsWindow* o) { support::doubleClickRow(o->wortsch(), 1); });
-        action("opt")->trigger();
-    });
-    QTest::keyClicks(w_.get(), "aple");
-    QVERIFY(g.g.Wort == "GNU" && g.g.Punkte[0] == 0 && !action("weiter")->isEnabled());
-    QVERIFY(shows(w_->fieldLabel(3), "feld0") && !w_->fieldLabel(4));
-    QVERIFY2(readAll(ini_).contains("Datei=zoo.dat\r\n"), readAll(ini_));
-    // Closing while the next solved word waits ends the program at once, and every later wait.
-    QElapsedTimer clock;
-    clock.start();
-    support::whenEnabled(action("weiter"), [&] { w_->close(); });
-    QTest::keyClicks(w_.get(), "gnu");
-    QVERIFY(exits_ == 1 && g.ended());
-    w_->toolkit().waitScale = 1;
-    w_->toolkit().wait(30);
-    QCOMPARE(w_->toolkit().msgBox("Really?", 36, "Frostel"), 7);
-    QVERIFY(clock.elapsed() < 5000);
-}
+    void aGameByKeysAndClicks()
+    {
+        w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+        core::Game& g = w_->game();
+        QAction* weiter = action("weiter");
+        w_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w_.get()));
+        // No game: letters and Enter do nothing, the tip button only counts; Ctrl+E asks, Esc is
+        // No.
+        QVERIFY(!action("tip")->isEnabled() && !weiter->isEnabled());
+        QTest::keyClicks(w_.get(), "a\r");
+        QTest::mouseClick(w_->picBut(2), Qt::LeftButton);
+        QVERIFY(g.g.Wort.isEmpty() && g.g.TipZaehler == 1);
+        QStringList boxes;
+        support::answerNextBox(Qt::Key_Escape, &boxes);
+        QTest::keyClick(w_.get(), Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(exits_ == 0 && boxes == QStringList{"Program end: Really end the game?"});
+        // A word by the traffic light; a letter by its key, another by its tile.
+        QTest::mouseClick(w_->picBut(0), Qt::LeftButton);
+        QVERIFY(g.g.Wort == "APPLE" && action("tip")->isEnabled());
+        QTest::keyClick(w_.get(), Qt::Key_P);
+        QTest::mouseClick(w_->tileLabel(0), Qt::LeftButton);
+        QVERIFY(board(*w_).endsWith(" 24 tiles"));
+        QVERIFY(shows(w_->fieldLabel(1), "alpha0") && shows(w_->fieldLabel(2), "alpha15"));
+        QVERIFY(shows(w_->fieldLabel(4), "feld0"));
+        // Solving holds the wait with its button up; Enter ends it.
+        bool held = false;
+        support::whenEnabled(weiter, [&] {
+            held = w_->picBut(3)->isVisible();
+            QTest::keyClick(w_.get(), Qt::Key_Return);
+        });
+        QTest::keyClicks(w_.get(), "le");
+        QVERIFY(held && !weiter->isEnabled() && !w_->picBut(3)->isVisible());
+        QVERIFY(shows(w_->pointLabel(0), "symbol1"));
+        // The help menu: the contents with the search open, and help on help.
+        action("hilfe_1")->trigger();
+        auto* help = w_->findChild<mainwindow::HelpWindow*>();
+        QVERIFY(help->currentPage() == "index.html" && help->searchField()->isVisible());
+        action("hilfe_2")->trigger();
+        QCOMPARE(help->currentPage(), QString("helponhelp.html"));
+        // The end from the menu, Enter takes Yes: the window's place is written.
+        support::answerNextBox(Qt::Key_Return);
+        action("ende")->trigger();
+        QVERIFY(exits_ == 1 && g.ended() && readAll(ini_).contains("[Window]"));
+    }
+
+    void optionsAndClosingWhileAWordWaits()
+    {
+        w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+        core::Game& g = w_->game();
+        action("start")->trigger();
+        // Another vocabulary chosen while the solved word waits: a new game on the new list.
+        support::whenEnabled(action("weiter"), [&] {
+            support::onNextModal<settings::OptionsWindow>([](settings::OptionsWindow* o) {
+                const QPoint at = o->wortsch()->visualItemRect(o->wortsch()->item(1)).center();
+                QTest::mouseClick(o->wortsch()->viewport(), Qt::LeftButton, {}, at); // as sent
+                QTest::mouseDClick(o->wortsch()->viewport(), Qt::LeftButton, {}, at);
+            });
+            action("opt")->trigger();
+        });
+        QTest::keyClicks(w_.get(), "aple");
+        QVERIFY(g.g.Wort == "GNU" && g.g.Punkte[0] == 0 && !action("weiter")->isEnabled());
+        QVERIFY(shows(w_->fieldLabel(3), "feld0") && !w_->fieldLabel(4));
+        QVERIFY2(readAll(ini_).contains("Datei=zoo.dat\r\n"), readAll(ini_));
+        // Closing while the next solved word waits ends the program at once, and every later wait.
+        QElapsedTimer clock;
+        clock.start();
+        support::whenEnabled(action("weiter"), [&] { w_->close(); });
+        QTest::keyClicks(w_.get(), "gnu");
+        QVERIFY(exits_ == 1 && g.ended());
+        w_->toolkit().waitScale = 1;
+        w_->toolkit().wait(30);
+        QCOMPARE(w_->toolkit().msgBox("Really?", 36, "Frostel"), 7);
+        QVERIFY(clock.elapsed() < 5000);
+    }
+};
 
 QTEST_MAIN(MainWindowTest)
 #include "tst_main_window.moc"

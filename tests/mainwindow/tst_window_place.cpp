@@ -1,7 +1,8 @@
 // The main window's place, size and state, offscreen and under a window manager: as stored,
-// within the screen, kept at the end, and the smallest size it allows.
+// within the screen, kept at the end, and the smallest size it allows; where the layout puts
+// the controls.
+#include "mainwindow/layout.h"
 #include "mainwindow/screen_fit.h"
-#include "support/files.h"
 #include "support/main_window_start.h"
 
 #include <QAction>
@@ -9,7 +10,6 @@
 #include <limits>
 
 using StoredPlace = settings::WindowPlace;
-using support::tw;
 
 Q_DECLARE_METATYPE(settings::WindowPlace)
 
@@ -18,140 +18,150 @@ class WindowPlaceTest : public QObject, support::MainWindowStart {
 private slots:
     void init() { QVERIFY(enter()); }
     void cleanup() { leave(); }
-    void restartRestoresWhatWasStored();
-    void storedStateComesBack_data();
-    void storedStateComesBack();
-    void fitsTheScreen_data();
-    void fitsTheScreen();
-    void screenBounds();
-};
 
-void WindowPlaceTest::restartRestoresWhatWasStored()
-{
-    const QRect moved(50, 40, 700, 495);
-    // Where the player cannot be moved by the program, the size is all that comes back.
-    auto placed = [](QWidget* w, QRect r) {
-        return support::onWayland() ? w->frameGeometry().size() == r.size()
-                                    : w->frameGeometry() == r;
-    };
+    void layout()
     {
-        auto w = startWindow("[Window]\r\nLeft= 1500\r\nTop= 1200\r\n");
-        QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
-        // Laid out anew at each resize, the word keeps to the middle; the design size is the least.
-        w->findChild<QAction*>("start")->trigger();
-        auto offMiddle = [&w] {
-            return w->fieldLabel(3)->geometry().center().x() - w->width() / 2;
+        // The smallest window with a five-letter word: the pictures, the buttons, the panel,
+        // the fields one pitch apart behind their pattern, the next-word button; in twips.
+        const auto l = mainwindow::Anordnen(9600, 6975, 2400, 5);
+        QStringList at;
+        for (auto t :
+             {l.bFolge, l.picBut[0], l.picBut[2], l.picture1, l.feld[0], l.feld[5], l.picBut3})
+            at << QString("%1,%2").arg(t.left).arg(t.top);
+        QCOMPARE(at.join(' '),
+                 "5760,360 8605,480 8605,2160 300,4507 3225,3273 5475,3273 3802,4073");
+    }
+
+    void restartRestoresWhatWasStored()
+    {
+        const QRect moved(50, 40, 700, 495);
+        // Where the player cannot be moved by the program, the size is all that comes back.
+        auto placed = [](QWidget* w, QRect r) {
+            return support::onWayland() ? w->frameGeometry().size() == r.size()
+                                        : w->frameGeometry() == r;
         };
-        w->resize(w->size() + QSize(150, 0));
-        QTRY_COMPARE(w->frameGeometry().size(), QSize(790, 465));
-        const int off = offMiddle();
-        w->resize(300, 200);
-        QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
-        QVERIFY(qAbs(offMiddle() - off) <= 1);
-        w->move(moved.topLeft());
-        w->resize(w->size() + QSize(60, 30));
+        {
+            auto w = startWindow("[Window]\r\nLeft= 1500\r\nTop= 1200\r\n");
+            QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
+            // Laid out anew at each resize, the word keeps to the middle; the design size is the
+            // least.
+            w->findChild<QAction*>("start")->trigger();
+            auto offMiddle = [&w] {
+                return w->fieldLabel(3)->geometry().center().x() - w->width() / 2;
+            };
+            w->resize(w->size() + QSize(150, 0));
+            QTRY_COMPARE(w->frameGeometry().size(), QSize(790, 465));
+            const int off = offMiddle();
+            w->resize(300, 200);
+            QTRY_COMPARE(w->frameGeometry().size(), QSize(640, 465));
+            QVERIFY(qAbs(offMiddle() - off) <= 1);
+            w->move(moved.topLeft());
+            w->resize(w->size() + QSize(60, 30));
+            QTRY_VERIFY(placed(w.get(), moved));
+            w->close();
+            QCOMPARE(exits_, 1);
+        }
+        // The place of the frame, which options never come with; on Wayland the place read stays.
+        const QByteArray ini = support::readAll(ini_);
+        QCOMPARE(ini, QByteArray(support::onWayland() ? "[Window]\r\nLeft= 1500\r\nTop= 1200\r\n"
+                                                      : "[Window]\r\nLeft= 750\r\nTop= 600\r\n") +
+                          "Width= 10500\r\nHeight= 7425\r\nStatus= 0\r\n");
+        // The next start comes up there again, and leaves the file as it was.
+        auto w = startWindow();
         QTRY_VERIFY(placed(w.get(), moved));
         w->close();
-        QCOMPARE(exits_, 1);
+        QCOMPARE(support::readAll(ini_), ini);
     }
-    // The place of the frame, which options never come with; on Wayland the place read stays.
-    const QByteArray ini = support::readAll(ini_);
-    QCOMPARE(ini, QByteArray(support::onWayland() ? "[Window]\r\nLeft= 1500\r\nTop= 1200\r\n"
-                                                  : "[Window]\r\nLeft= 750\r\nTop= 600\r\n") +
-                      "Width= 10500\r\nHeight= 7425\r\nStatus= 0\r\n");
-    // The next start comes up there again, and leaves the file as it was.
-    auto w = startWindow();
-    QTRY_VERIFY(placed(w.get(), moved));
-    w->close();
-    QCOMPARE(support::readAll(ini_), ini);
-}
 
-void WindowPlaceTest::storedStateComesBack_data()
-{
-    QTest::addColumn<QByteArray>("ini");
-    QTest::addColumn<int>("state");      // as the window comes up
-    QTest::addColumn<QByteArray>("end"); // null: the file as it was; else minimised by the player
-    const QByteArray place =
-        "[Window]\r\nLeft= 900\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7500\r\n";
-    QTest::newRow("maximised: the place keys stay") << place + "Status= 2\r\n"
-                                                    << int(Qt::WindowMaximized) << QByteArray();
-    QTest::newRow("minimised, in its place") << place + "Status= 1\r\n"
-                                             << int(Qt::WindowMinimized) << QByteArray();
-    QTest::newRow("minimised from maximised: state 1 and the place")
-        << place + "Status= 2\r\n"
-        << int(Qt::WindowMaximized)
-        << QByteArray("[Window]\r\nLeft=%1\r\nTop=%2\r\nWidth=%3\r\nHeight=%4\r\nStatus= 1\r\n");
-}
-
-void WindowPlaceTest::storedStateComesBack()
-{
-    QFETCH(QByteArray, ini);
-    QFETCH(int, state);
-    QFETCH(QByteArray, end);
-    auto w = startWindow(ini);
-    QCOMPARE(int(w->windowState()), state);
-    if (!end.isNull()) w->showMinimized();
-    QTRY_COMPARE(bool(w->windowState() & Qt::WindowMinimized),
-                 !end.isNull() || state == Qt::WindowMinimized);
-    const QRect r = w->frameGeometry();
-    w->close();
-    auto n = [](int px) { return settings::numberForm(double(tw(px))); };
-    const bool kept = support::onWayland(); // there the place of the rows' file stays
-    QCOMPARE(support::readAll(ini_),
-             end.isNull() ? ini
-                          : QString(end)
-                                .arg(kept ? " 900" : n(r.x()), kept ? " 600" : n(r.y()),
-                                     n(r.width()), n(r.height()))
-                                .toLatin1());
-}
-
-void WindowPlaceTest::fitsTheScreen_data()
-{
-    QTest::addColumn<StoredPlace>("stored");
-    QTest::addColumn<QRect>("screen"); // its available area
-    QTest::addColumn<QRect>("place");
-    const QRect s(0, 0, 15360, 11520); // 1024 x 768 pixels
-    const int far = std::numeric_limits<int>::max(), near = std::numeric_limits<int>::min();
-    QTest::newRow("on the right edge exactly, one twip below the bottom: only the top centred")
-        << StoredPlace{0, 5760, 4546, 9600, 6975} << s << QRect(5760, 2272, 9600, 6975);
-    QTest::newRow("smaller than the design, or below zero: the design size")
-        << StoredPlace{0, 750, 600, -5, 100} << s << QRect(750, 600, 9600, 6975);
-    QTest::newRow("wider and taller than the screen, far off: as large, from its corner")
-        << StoredPlace{0, far, near, far, 99999999} << s << QRect(0, 0, 15360, 11520);
-    QTest::newRow("a corner off the screen: centred, moved in to stand whole")
-        << StoredPlace{0, -15, 600, 14000, 7425} << s << QRect(1360, 600, 14000, 7425);
-    QTest::newRow("a second screen under a panel: judged and centred on its own")
-        << StoredPlace{0, 15660, 300, 9600, 6975} << QRect(15360, 450, 19200, 10800)
-        << QRect(15660, 2362, 9600, 6975);
-    QTest::newRow("a screen smaller than the design: the design size, from its corner")
-        << StoredPlace{0, 300, 300, 9600, 6975} << QRect(0, 0, 9000, 6000)
-        << QRect(0, 0, 9600, 6975);
-}
-
-void WindowPlaceTest::fitsTheScreen()
-{
-    QFETCH(StoredPlace, stored);
-    QFETCH(QRect, screen);
-    QFETCH(QRect, place);
-    QCOMPARE(mainwindow::fitToScreen(stored, screen, QSize(9600, 6975)), place);
-}
-
-void WindowPlaceTest::screenBounds()
-{
-    if (support::onWayland()) QSKIP("the compositor places the window, on the screen");
-    // The rule applied to the real screen's available area, in twips.
-    const QRect s = QGuiApplication::primaryScreen()->availableGeometry();
-    const long long maxLeft = tw(s.width()) - 9600;
-    const std::pair<QByteArray, QRect> rows[] = {
-        {"Left=" + QByteArray::number(maxLeft) + "\r\nTop=300\r\n",
-         QRect(support::px(maxLeft), 20, 640, 465)}, // on the right edge exactly: as stored
-        {"Left=" + QByteArray::number(maxLeft + 1) + "\r\nTop=600\r\nHeight=99999999\r\n",
-         QRect(support::centred({640, 465}).x(), s.top(), 640, s.height())}}; // off and taller
-    for (const auto& [window, frame] : rows) {
-        auto w = startWindow("[Window]\r\n" + window);
-        QTRY_COMPARE(w->frameGeometry(), frame);
+    void storedStateComesBack_data()
+    {
+        QTest::addColumn<QByteArray>("ini");
+        QTest::addColumn<int>("state"); // as the window comes up
+        QTest::addColumn<QByteArray>(
+            "end"); // null: the file as it was; else minimised by the player
+        const QByteArray place =
+            "[Window]\r\nLeft= 900\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7500\r\n";
+        QTest::newRow("maximised: the place keys stay") << place + "Status= 2\r\n"
+                                                        << int(Qt::WindowMaximized) << QByteArray();
+        QTest::newRow("minimised, in its place") << place + "Status= 1\r\n"
+                                                 << int(Qt::WindowMinimized) << QByteArray();
+        QTest::newRow("minimised from maximised: state 1 and the place")
+            << place + "Status= 2\r\n"
+            << int(Qt::WindowMaximized)
+            << QByteArray(
+                   "[Window]\r\nLeft=%1\r\nTop=%2\r\nWidth=%3\r\nHeight=%4\r\nStatus= 1\r\n");
     }
-}
+
+    void storedStateComesBack()
+    {
+        QFETCH(QByteArray, ini);
+        QFETCH(int, state);
+        QFETCH(QByteArray, end);
+        auto w = startWindow(ini);
+        QCOMPARE(int(w->windowState()), state);
+        if (!end.isNull()) w->showMinimized();
+        QTRY_COMPARE(bool(w->windowState() & Qt::WindowMinimized),
+                     !end.isNull() || state == Qt::WindowMinimized);
+        const QRect r = w->frameGeometry();
+        w->close();
+        auto n = [](int px) { return settings::numberForm(px * 15.0); };
+        const bool kept = support::onWayland(); // there the place of the rows' file stays
+        QCOMPARE(support::readAll(ini_),
+                 end.isNull() ? ini
+                              : QString(end)
+                                    .arg(kept ? " 900" : n(r.x()), kept ? " 600" : n(r.y()),
+                                         n(r.width()), n(r.height()))
+                                    .toLatin1());
+    }
+
+    void fitsTheScreen_data()
+    {
+        QTest::addColumn<StoredPlace>("stored");
+        QTest::addColumn<QRect>("screen"); // its available area
+        QTest::addColumn<QRect>("place");
+        const QRect s(0, 0, 15360, 11520); // 1024 x 768 pixels
+        const int far = std::numeric_limits<int>::max(), near = std::numeric_limits<int>::min();
+        QTest::newRow("on the right edge exactly, one twip below the bottom: only the top centred")
+            << StoredPlace{0, 5760, 4546, 9600, 6975} << s << QRect(5760, 2272, 9600, 6975);
+        QTest::newRow("smaller than the design, or below zero: the design size")
+            << StoredPlace{0, 750, 600, -5, 100} << s << QRect(750, 600, 9600, 6975);
+        QTest::newRow("wider and taller than the screen, far off: as large, from its corner")
+            << StoredPlace{0, far, near, far, 99999999} << s << QRect(0, 0, 15360, 11520);
+        QTest::newRow("a corner off the screen: centred, moved in to stand whole")
+            << StoredPlace{0, -15, 600, 14000, 7425} << s << QRect(1360, 600, 14000, 7425);
+        QTest::newRow("a second screen under a panel: judged and centred on its own")
+            << StoredPlace{0, 15660, 300, 9600, 6975} << QRect(15360, 450, 19200, 10800)
+            << QRect(15660, 2362, 9600, 6975);
+        QTest::newRow("a screen smaller than the design: the design size, from its corner")
+            << StoredPlace{0, 300, 300, 9600, 6975} << QRect(0, 0, 9000, 6000)
+            << QRect(0, 0, 9600, 6975);
+    }
+
+    void fitsTheScreen()
+    {
+        QFETCH(StoredPlace, stored);
+        QFETCH(QRect, screen);
+        QFETCH(QRect, place);
+        QCOMPARE(mainwindow::fitToScreen(stored, screen, QSize(9600, 6975)), place);
+    }
+
+    void screenBounds()
+    {
+        if (support::onWayland()) QSKIP("the compositor places the window, on the screen");
+        // The rule applied to the real screen's available area, in twips.
+        const QRect s = QGuiApplication::primaryScreen()->availableGeometry();
+        const int maxLeft = (s.right() + 1 - 640) * 15;
+        const std::pair<QByteArray, QRect> rows[] = {
+            {"Left=" + QByteArray::number(maxLeft) + "\r\nTop=300\r\n",
+             QRect(maxLeft / 15, 20, 640, 465)}, // on the right edge exactly: as stored
+            {"Left=" + QByteArray::number(maxLeft + 1) + "\r\nTop=600\r\nHeight=99999999\r\n",
+             QRect(s.left() + (s.width() - 640) / 2, s.top(), 640, s.height())}}; // off and taller
+        for (const auto& [window, frame] : rows) {
+            auto w = startWindow("[Window]\r\n" + window);
+            QTRY_COMPARE(w->frameGeometry(), frame);
+        }
+    }
+};
 
 QTEST_MAIN(WindowPlaceTest)
 #include "tst_window_place.moc"

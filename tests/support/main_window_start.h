@@ -7,24 +7,11 @@
 
 #include <QDir>
 #include <QGuiApplication>
-#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
-#include <cmath>
 #include <memory>
 
 namespace support {
-
-inline long long tw(int px) { return px * 15LL; }
-inline int px(long long twips) { return int(std::lround(twips / 15.0)); }
-
-// Where a window of that outer size stands centred: the differences in twips, halved.
-inline QPoint centred(QSize outer)
-{
-    const QSize s = QGuiApplication::primaryScreen()->geometry().size();
-    return {px((tw(s.width()) - tw(outer.width())) / 2),
-            px((tw(s.height()) - tw(outer.height())) / 2)};
-}
 
 // There the compositor places windows and a program never learns where.
 inline bool onWayland() { return QGuiApplication::platformName().startsWith("wayland"); }

@@ -18,7 +18,8 @@ template <class T = QWidget> T* child(const QObject* window, const char* name)
     return found;
 }
 
-// Runs `act` on the next modal window of type T once it shows; none within five seconds fails.
+// Runs `act` on the next modal window of type T once it shows and is active. None within five
+// seconds fails, and so does one left open five seconds: it is closed, so the test goes on.
 template <class T> void onNextModal(std::function<void(T*)> act)
 {
     struct Watch : QObject {
@@ -28,7 +29,15 @@ template <class T> void onNextModal(std::function<void(T*)> act)
             auto* window = qobject_cast<T*>(o);
             if (e->type() != QEvent::Show || !window || !window->isModal()) return false;
             // Its own event loop runs once the show is done.
-            QTimer::singleShot(0, window, [act = act, window] { act(window); });
+            QTimer::singleShot(0, window, [act = act, window] {
+                QApplication::setActiveWindow(window);
+                if (QTest::qWaitForWindowActive(window)) act(window);
+            });
+            QTimer::singleShot(5000, window, [window] {
+                if (!window->isVisible()) return;
+                QTest::qFail("a modal window stayed open", __FILE__, __LINE__);
+                window->close();
+            });
             deleteLater();
             qApp->removeEventFilter(this);
             return false;
@@ -72,13 +81,6 @@ inline QStringList tabWalk(QWidget* first)
         walked << QApplication::focusWidget()->objectName();
     }
     return walked;
-}
-
-inline void doubleClickRow(QListWidget* list, int row)
-{
-    const QPoint at = list->visualItemRect(list->item(row)).center();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at); // as the system sends it
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
 }
 
 } // namespace support

@@ -1,0 +1,94 @@
+// The shared widget library: every picture the manifest names is built in at its size and at
+// twice that; design values in twips brought to pixels and windows centred; panel frames as
+// they show on the screen.
+#include "widgets/panel.h"
+#include "widgets/twips.h"
+#include "widgets/window_design.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+#include <QWidget>
+
+class WidgetsTest : public QObject {
+    Q_OBJECT
+private slots:
+    void everyPictureLoadsAtBothScales()
+    {
+        QFile manifest(QStringLiteral(PICTURE_MANIFEST));
+        QVERIFY(manifest.open(QIODevice::ReadOnly | QIODevice::Text));
+        int count = 0;
+        for (const QByteArray& line : manifest.readAll().split('\n')) {
+            const QList<QByteArray> f = line.simplified().split(' '); // name width height [source]
+            if (f.size() < 3 || line.startsWith('#')) continue;
+            const QString path = ":/pictures/" + QString::fromUtf8(f[0]);
+            const QSize size(f[1].toInt(), f[2].toInt());
+            QCOMPARE(QImage(path + ".png").size(), size);
+            QCOMPARE(QImage(path + "@2x.png").size(), size * 2);
+            ++count;
+        }
+        QVERIFY(count > 60);
+    }
+
+    void twips()
+    {
+        // Halves go away from zero.
+        for (auto [twips, pixels] : {std::pair{7.0, 0}, {7.5, 1}, {-7.5, -1}, {3732.0, 249}})
+            QCOMPARE(widgets::twipsToPixels(twips), pixels);
+        // Centred, halves are cut towards zero, also for a window larger than the screen.
+        QCOMPARE(widgets::centredTwips({12000, 12000}, {5340, 4935}), QPoint(3330, 3532));
+        QCOMPARE(widgets::centredTwips({12000, 12000}, {15015, 13515}), QPoint(-1507, -757));
+        // Every control takes its design value; a window takes its size only, where it stands
+        // is for its load handler to say.
+        QWidget window;
+        window.setGeometry(40, 50, 100, 100);
+        window.setProperty("twips", "150,300,1500,3000");
+        auto* c = new QWidget(&window);
+        auto* g = new QWidget(c);
+        c->setProperty("twips", "7,8,22,23");
+        g->setProperty("twips", " -150, 300 ,450,600");
+        widgets::applyTwips(&window);
+        QCOMPARE(QList<QRect>({window.geometry(), c->geometry(), g->geometry()}),
+                 QList<QRect>({{40, 50, 100, 200}, {0, 1, 1, 2}, {-10, 20, 30, 40}}));
+        QCOMPARE(widgets::twipsOf(c), QRect(7, 8, 22, 23)); // the design value stays exact
+    }
+
+    // One pixel wide, the upper and left edge outside the panel, the lower and right edge on
+    // its own last row and column, on any pixel size.
+    void sunkenFrame_data()
+    {
+        QTest::addColumn<int>("lines");
+        QTest::addColumn<double>("t");       // twips a pixel
+        QTest::addColumn<QString>("pixels"); // rows of g grey, w white; the panel 3 by 2 at (2, 2)
+        QTest::newRow("one") << 1 << 15.0 << ".......|.ggggw.|.g...w.|.g...w.|.wwwww.|.......";
+        QTest::newRow("two at 12")
+            << 2 << 12.0 << "ggggggw|gggggww|gg...ww|gg...ww|gwwwwww|wwwwwww";
+        QTest::newRow("none") << 0 << 15.0 << ".......|.......|.......|.......|.......|.......";
+    }
+
+    void sunkenFrame()
+    {
+        QFETCH(int, lines);
+        QFETCH(double, t);
+        QFETCH(QString, pixels);
+        QImage image(7, 6, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        for (const auto& [edges, colour] :
+             {std::pair{&widgets::RahmenObenLinks, 8}, std::pair{&widgets::RahmenUntenRechts, 15}})
+            widgets::drawPanelLines(painter, edges(2 * t, 3 * t, 2 * t, 2 * t, lines, t), colour,
+                                    t);
+        painter.end();
+        QString seen;
+        for (int y = 0; y < image.height(); ++y, seen += '|')
+            for (int x = 0; x < image.width(); ++x)
+                seen += image.pixel(x, y) == widgets::QBColor(8).rgb()    ? 'g'
+                        : image.pixel(x, y) == widgets::QBColor(15).rgb() ? 'w'
+                                                                          : '.';
+        QCOMPARE(seen.chopped(1), pixels);
+    }
+};
+
+QTEST_MAIN(WidgetsTest)
+#include "tst_widgets.moc"
