@@ -1,5 +1,6 @@
 // The real main window, offscreen and under a window manager: what a settings file starts, a
-// game played by keys and clicks, help and the options from the menu, and the end.
+// game played by keys and clicks, input during a wait (also a real X key press), help and the
+// options from the menu, and the end.
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"
 #include "support/main_window_start.h"
@@ -9,6 +10,8 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
+#include <QStandardPaths>
 
 using support::readAll;
 
@@ -30,6 +33,16 @@ QString board(const mainwindow::MainWindow& w)
     for (int i = 0; i < core::kTiles; ++i) tiles += w.tileLabel(i)->isVisible();
     return names.join(',') + QString(", %1 tiles").arg(tiles);
 }
+
+// Notes when a key press reaches the program.
+struct KeySeen : QObject {
+    bool seen = false;
+    bool eventFilter(QObject*, QEvent* e) override
+    {
+        seen = seen || e->type() == QEvent::KeyPress;
+        return false;
+    }
+};
 
 } // namespace
 
@@ -130,6 +143,42 @@ private slots:
         support::answerNextBox(Qt::Key_Return);
         action("ende")->trigger();
         QVERIFY(exits_ == 1 && g.ended() && readAll(ini_).contains("[Window]"));
+    }
+
+    void inputDuringAWaitIsPlayedAfterIt_data()
+    {
+        QTest::addColumn<bool>("x11");
+        QTest::newRow("key") << false;
+        QTest::newRow("real X key press") << true;
+    }
+
+    void inputDuringAWaitIsPlayedAfterIt()
+    {
+        QFETCH(bool, x11);
+        if (x11 && (QGuiApplication::platformName() != "xcb" ||
+                    QStandardPaths::findExecutable("xdotool").isEmpty()))
+            QSKIP("needs an X server and xdotool (runs under Xvfb)");
+        w_ = startWindow(); // with sound, a miss waits a moment
+        w_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w_.get()));
+        core::Game& g = w_->game();
+        action("start")->trigger();
+        // A P comes during the wait after the miss of Z; it has arrived before the wait ends.
+        bool wasBusy = false, playedDuringWait = true;
+        QTimer::singleShot(0, w_.get(), [&] {
+            wasBusy = g.busy();
+            KeySeen input;
+            qApp->installEventFilter(&input);
+            if (!x11) QTest::keyClick(w_.get(), Qt::Key_P);
+            else QProcess::execute("xdotool", {"key", "p"}); // to the active window, through XTEST
+            QVERIFY(QTest::qWaitFor([&] { return input.seen; }));
+            playedDuringWait = !w_->tileLabel(15)->isVisible();
+        });
+        QTest::keyClick(w_.get(), Qt::Key_Z);
+        QVERIFY(wasBusy && !playedDuringWait);
+        // Played once the miss had returned: both P of APPLE.
+        QTRY_COMPARE(g.g.Treffer, int16_t(2));
+        QVERIFY(g.g.Fehler == 1 && !w_->tileLabel(15)->isVisible());
     }
 
     void optionsAndClosingWhileAWordWaits()
