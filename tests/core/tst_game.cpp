@@ -81,13 +81,10 @@ private:
     {
         QStringList heard; // sounds, waits and seeds, run together on one line
         for (QString e : t_->tk.log << QString()) { // the empty entry ends the last run
-            if (e == "serve") continue;
-            if (e.startsWith("wait") || e.startsWith("sound") || e == "seed") {
-                heard << e;
-                continue;
-            }
-            if (!heard.isEmpty()) out_ << "  " + runs(heard);
-            heard.clear();
+            const bool heardOnly = e.startsWith("wait") || e.startsWith("sound") || e == "seed";
+            if (heardOnly) heard << e;
+            if (heardOnly || e == "serve") continue;
+            if (!heard.isEmpty()) out_ << "  " + runs(std::exchange(heard, {}));
             if (!e.isEmpty()) out_ << "  " + e.replace(QChar(13), "\\r");
         }
         t_->tk.log.clear();

@@ -62,14 +62,13 @@ protected:
         auto w = std::make_unique<mainwindow::MainWindow>(setup);
         w->toolkit().waitScale = 0.01;
         w->Form_Load();
-        if (framed_) framed(w.get()); // a window manager has framed it by then
+        framed(w.get()); // a window manager has framed it by then
         return w;
     }
 
     QTemporaryDir dir_;
     QString oldCwd_, ini_ = dir_.filePath("config/frostel.ini");
     int exits_ = 0;
-    bool framed_ = true; // false: no window manager to wait for
 };
 
 } // namespace support
