@@ -1,7 +1,8 @@
 #pragma once
 // Writes that fail as on a player's machine, also as root (as in CI), where permissions stop
-// nothing: the write runs in a child without root's powers. "full disk": no file may grow;
-// "read-only": no new file in the folder, its files stay writable; "unreadable": no file read.
+// nothing: the write runs in a child without root's powers. "full disk": the small file system
+// the test runs on (see on_small_disk.sh) is filled, elsewhere no file may grow; "read-only":
+// no new file in the folder, its files stay writable; "unreadable": no file read.
 #include <QDir>
 #include <QFile>
 #include <csignal>
@@ -22,8 +23,20 @@ inline int inTrap(const QString& folder, const QString& trap, const std::functio
     QDir().mkpath(folder);
     const auto permissions = QFile::permissions(folder);
     if (trap == "read-only") QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
-    for (const QString& name : QDir(folder).entryList(QDir::Files))
-        if (trap == "unreadable") QFile::setPermissions(folder + '/' + name, QFile::WriteOwner);
+    const auto files = [&folder](QFile::Permissions p) {
+        for (const QString& name : QDir(folder).entryList(QDir::Files))
+            QFile::setPermissions(folder + '/' + name, p);
+    };
+    if (trap == "unreadable") files(QFile::WriteOwner);
+    // Filled beside the folder, so that what a write leaves in it can be seen.
+    const QString disk = qEnvironmentVariable("FROSTEL_SMALL_DISK"), filler = folder + "/../filler";
+    const bool real = trap == "full disk" && !disk.isEmpty() && folder.startsWith(disk);
+    if (real) {
+        QFile f(filler);
+        static_cast<void>(f.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        for (qint64 block = 1 << 20; block > 0; block /= 2)
+            while (f.write(QByteArray(block, 'x')) == block) continue;
+    }
     int status = -1;
     if (const pid_t child = fork(); child == 0) {
         __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
@@ -31,12 +44,14 @@ inline int inTrap(const QString& folder, const QString& trap, const std::functio
         const rlimit zero{0, 0};
         syscall(SYS_capset, &head, none);
         signal(SIGXFSZ, SIG_IGN); // the write fails instead
-        if (trap == "full disk") setrlimit(RLIMIT_FSIZE, &zero);
+        if (trap == "full disk" && !real) setrlimit(RLIMIT_FSIZE, &zero);
         _exit(write());
     } else if (child > 0) {
         waitpid(child, &status, 0);
     }
     QFile::setPermissions(folder, permissions);
+    if (trap == "unreadable") files(QFile::ReadOwner | QFile::WriteOwner); // to be looked at
+    QFile::remove(filler);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
