@@ -1,12 +1,13 @@
 // The real main window, offscreen and under a window manager: what a settings file starts, a
 // game played by keys and clicks, input during a wait (also a real X key press), help and the
-// options from the menu, and the end.
+// options from the menu, the end, and what a screen reader hears.
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"
 #include "support/main_window_start.h"
 #include "support/windows.h"
 #include "widgets/pictures.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,6 +44,20 @@ struct KeySeen : QObject {
         return false;
     }
 };
+
+// Every description a screen reader is told of as news, in order.
+QStringList heard;
+
+void listen(QAccessibleEvent* event)
+{
+    if (event->type() != QAccessible::Alert) return;
+    if (auto* w = qobject_cast<QWidget*>(event->object())) heard << w->accessibleDescription();
+}
+
+QString nameOf(QWidget* w)
+{
+    return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+}
 
 } // namespace
 
@@ -209,6 +224,54 @@ private slots:
         w_->toolkit().wait(30);
         QCOMPARE(w_->toolkit().msgBox("Really?", 36, "Frostel"), 7);
         QVERIFY(clock.elapsed() < 5000);
+    }
+
+    // What a screen reader gets of a short game: names and roles of the board's controls, and
+    // the events that tell what happened, read through Qt's accessibility interfaces.
+    void whatAScreenReaderHears()
+    {
+        if (qEnvironmentVariableIsEmpty("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"))
+            QSKIP("needs the accessibility bus (runs under with_atspi.sh)");
+        QAccessible::setActive(true);
+        QAccessible::installUpdateHandler(listen);
+        w_ = startWindow("[Einstellungen]\r\nSound= 0\r\nAnzahl= 2\r\n");
+        QAccessibleInterface* tile = QAccessible::queryAccessibleInterface(w_->tileLabel(0));
+        QCOMPARE(tile->role(), QAccessible::Button);
+        QCOMPARE(tile->text(QAccessible::Name), QString("Letter A"));
+        QCOMPARE(nameOf(w_->picBut(0)), QString("Start game"));
+        QCOMPARE(nameOf(w_->playerLabel(0)), QString("Marta, points: 0, at turn"));
+        QCOMPARE(nameOf(w_->playerLabel(1)), QString("Helene, points: 0"));
+
+        heard.clear();
+        QTest::mouseClick(static_cast<QWidget*>(w_->picBut(0)), Qt::LeftButton);
+        QTest::keyClick(w_.get(), Qt::Key_P);
+        QTest::keyClick(w_.get(), Qt::Key_Z);
+        QCOMPARE(heard, (QStringList{"New word: 5 letters", "P uncovered", "No Z: stage 1 of 9",
+                                     "Helene's turn"}));
+        QCOMPARE(nameOf(w_->fieldLabel(1)), QString("Letter 1 of 5, covered"));
+        QCOMPARE(nameOf(w_->fieldLabel(2)), QString("Letter 2 of 5, P"));
+        QCOMPARE(nameOf(w_->pictureLabel(1)), QString("Frostel, stage 1 of 9"));
+        QCOMPARE(nameOf(w_->playerLabel(1)), QString("Helene, points: 0, at turn"));
+
+        // A screen reader presses tiles itself; the rest of the word wins Helene her point, and
+        // the next word follows once the finished one has been seen.
+        heard.clear();
+        for (int t : {0, 11}) {
+            QAccessibleInterface* i = QAccessible::queryAccessibleInterface(w_->tileLabel(t));
+            i->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            QTRY_VERIFY(!w_->tileLabel(t)->isVisible());
+        }
+        auto* weiter = w_->findChild<QAction*>("weiter");
+        QObject::connect(weiter, &QAction::enabledChanged, weiter, [weiter](bool on) {
+            if (on) QTimer::singleShot(0, weiter, &QAction::trigger);
+        });
+        QTest::keyClick(w_.get(), Qt::Key_E);
+        QCOMPARE(heard.mid(0, 5),
+                 (QStringList{"A uncovered", "L uncovered", "E uncovered", "Word solved: APPLE",
+                              "Helene scores a point, 1 in all"}));
+        QCOMPARE(nameOf(w_->playerLabel(1)), QString("Helene, points: 1, at turn"));
+        QAccessible::installUpdateHandler(nullptr);
+        QAccessible::setActive(false);
     }
 };
 
