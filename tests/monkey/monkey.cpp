@@ -27,13 +27,13 @@ public:
         if (!enter()) return 2;
         for (const auto& [name, words] : kWordFiles)
             if (vocabulary::writeWordFile(name, words)) return 2;
-        next();
+        QTimer::singleShot(0, qApp, [this] { step(); });
         restart();
         const int result = QCoreApplication::exec();
         w_.reset();
         leave();
-        std::printf("monkey: seed %u, %d commands, %d checks, %d word ends, %d draws, %d wins, "
-                    "%d starts\n",
+        std::printf("monkey: seed %u, %d commands, %d checks, %d word ends, %d draws, %d wins, %d "
+                    "starts\n",
                     seed_, done_, checks_, ends_, draws_, wins_, starts_);
         return result;
     }
@@ -42,16 +42,13 @@ private:
     int pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(random_); }
     bool chance(int percent) { return pick(100) < percent; }
     bool finishing() const { return failed_ || done_ >= commands_; }
-    void next()
-    {
-        QTimer::singleShot(0, qApp, [this] { step(); });
-    }
     void click(QWidget* w, QPoint at = {}) { QTest::mouseClick(w, Qt::LeftButton, {}, at); }
 
     void step()
     {
         QWidget* modal = QApplication::activeModalWidget();
-        next();    // queued first: when this command waits, the next one comes from inside it
+        // Queued first: when this command waits, the next one comes from inside it.
+        QTimer::singleShot(0, qApp, [this] { step(); });
         if (!w_) { // only the boxes of the start-up
             if (auto* box = qobject_cast<QMessageBox*>(modal)) box->buttons().first()->click();
             return;
