@@ -22,29 +22,29 @@ private slots:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QStringList>("words");
+        const auto row = [](const char* tag, const B& bytes, const L& words) {
+            QTest::newRow(tag) << bytes << words;
+        };
         const B a20(20, 'a');
-        QTest::newRow("CR LF, comma, end of file") << B("cat\r\ndog,emu") << L{"cat", "dog", "emu"};
-        QTest::newRow("bare LF") << B("cat\ndog\n") << L{"cat", "dog"};
-        QTest::newRow("quoted comma, tail dropped") << B("\"a,b\"x,emu\r\n") << L{"a,b", "emu"};
-        QTest::newRow("quotes run across line ends, to the end of the file if need be")
-            << B("\"a\r\nb\"\r\ncat\r\n\"dog\r\nemu") << L{"a\r\nb", "cat", "dog\r\nemu"};
-        QTest::newRow("leading blanks dropped, the others kept")
-            << B("   cat \r\n\ta b\t,\" x \"") << L{"cat ", "a b\t", " x "};
-        QTest::newRow("empty items") << B("cat\r\n\r\n,dog\r\n") << L{"cat", "", "", "dog"};
-        QTest::newRow("only blanks") << B("   ") << L{""};
-        QTest::newRow("Windows-1252")
-            << B("\x01\xE4pfel,\x80\r\nM\xD6WE") << L{"\x01äpfel", "€", "MÖWE"};
-        QTest::newRow("20 characters pass, 21 do not")
-            << a20 + ",b" + a20 + ',' + a20 + ' ' << L{a20};
-        QTest::newRow("quotes do not count") << '"' + a20 + '"' << L{a20};
-        QTest::newRow("sharp s is skipped") << B("Ma\xDF,weg") << L{"weg"};
-        QTest::newRow("a megabyte in one item") << B(1 << 20, 'x') + "\r\nowl" << L{"owl"};
-        QTest::newRow("NUL bytes are characters like any")
-            << B("a\0b\r\n\0", 6) << L{QString::fromLatin1("a\0b", 3), QString(QChar(0))};
+        row("CR LF, comma, end of file", "cat\r\ndog,emu", {"cat", "dog", "emu"});
+        row("bare LF", "cat\ndog\n", {"cat", "dog"});
+        row("quoted comma, tail dropped", "\"a,b\"x,emu\r\n", {"a,b", "emu"});
+        row("quotes run across line ends, to the end of the file if need be",
+            "\"a\r\nb\"\r\ncat\r\n\"dog\r\nemu", {"a\r\nb", "cat", "dog\r\nemu"});
+        row("leading blanks dropped", "   cat \r\n\ta b\t,\" x \"", {"cat ", "a b\t", " x "});
+        row("empty items", "cat\r\n\r\n,dog\r\n", {"cat", "", "", "dog"});
+        row("only blanks", "   ", {""});
+        row("Windows-1252", "\x01\xE4pfel,\x80\r\nM\xD6WE", {"\x01äpfel", "€", "MÖWE"});
+        row("20 characters pass, 21 do not", a20 + ",b" + a20 + ',' + a20 + ' ', {a20});
+        row("quotes do not count", '"' + a20 + '"', {a20});
+        row("sharp s is skipped", "Ma\xDF,weg", {"weg"});
+        row("a megabyte in one item", B(1 << 20, 'x') + "\r\nowl", {"owl"});
+        row("NUL bytes are characters like any", B("a\0b\r\n\0", 6),
+            {QString::fromLatin1("a\0b", 3), QString(QChar(0))});
         // The reader takes 64 KiB at a time: a word or a line end may fall across two reads.
-        QTest::newRow("a word across two reads") << B(65534, ' ') + "cat\r\nemu" << L{"cat", "emu"};
-        QTest::newRow("CR LF across two reads") << B(65535, 'x') + "\r\nowl" << L{"owl"};
-        QTest::newRow("a quote across two reads") << B(65535, ' ') + "\"a,b\"" << L{"a,b"};
+        row("a word across two reads", B(65534, ' ') + "cat\r\nemu", {"cat", "emu"});
+        row("CR LF across two reads", B(65535, 'x') + "\r\nowl", {"owl"});
+        row("a quote across two reads", B(65535, ' ') + "\"a,b\"", {"a,b"});
     }
 
     void items()
@@ -65,23 +65,22 @@ private slots:
         QTest::addColumn<QStringList>("words");
         QTest::addColumn<int>("writeNumber"); // 0: the write succeeds
         QTest::addColumn<QByteArray>("after");
-        const B cat("cat\r\n"), old("old\r\n"), none("<unreadable>");
-        QTest::newRow("CR LF after every line")
-            << "old" << 0 << L{"cat", "", "Möwe"} << 0 << B("cat\r\n\r\nM\xF6we\r\n");
-        QTest::newRow("an empty list: not even a line end") << "old" << 0 << L{} << 0 << B("");
-        QTest::newRow("missing file") << "none" << 53 << L{"cat"} << 0 << cat;
-        QTest::newRow("zero bytes") << "empty" << 62 << L{"cat"} << 0 << cat;
-        QTest::newRow("a directory in its place") << "dir" << 75 << L{"cat"} << 75 << none;
-        QTest::newRow("a pipe in its place: never read nor written")
-            << "fifo" << 75 << L{"cat"} << 75 << none;
-        QTest::newRow("a device, zeros without end: never read nor written")
-            << "device" << 75 << L{"cat"} << 75 << none;
-        QTest::newRow("unreadable") << "unreadable" << 70 << L{"cat"} << 0 << cat;
-        QTest::newRow("a missing folder") << "nofolder" << 53 << L{"cat"} << 76 << none;
-        QTest::newRow("a full disk keeps the old file")
-            << "full disk" << 0 << L{"cat"} << 61 << old;
-        QTest::newRow("a read-only folder: written in place")
-            << "read-only" << 0 << L{"cat"} << 0 << cat;
+        const auto row = [](const char* tag, const char* setup, int read, const L& words, int write,
+                            const B& after) {
+            QTest::newRow(tag) << setup << read << words << write << after;
+        };
+        const B cat("cat\r\n"), none("<unreadable>");
+        row("CR LF after every line", "old", 0, {"cat", "", "Möwe"}, 0, "cat\r\n\r\nM\xF6we\r\n");
+        row("an empty list: not even a line end", "old", 0, {}, 0, "");
+        row("missing file", "none", 53, {"cat"}, 0, cat);
+        row("zero bytes", "empty", 62, {"cat"}, 0, cat);
+        row("a directory in its place", "dir", 75, {"cat"}, 75, none);
+        row("a pipe in its place: never read nor written", "fifo", 75, {"cat"}, 75, none);
+        row("a device, zeros without end: never read nor written", "device", 75, {"cat"}, 75, none);
+        row("unreadable", "unreadable", 70, {"cat"}, 0, cat);
+        row("a missing folder", "nofolder", 53, {"cat"}, 76, none);
+        row("a full disk keeps the old file", "full disk", 0, {"cat"}, 61, "old\r\n");
+        row("a read-only folder: written in place", "read-only", 0, {"cat"}, 0, cat);
     }
 
     void writes()
