@@ -69,8 +69,6 @@ private slots:
             box->setText("Donaudampfschiffahrt");
             QTest::keyClick(box, Qt::Key_Return); // the default button: into its place
             seen << e->words().join(',');
-            for (int i = 0; i < e->words().size(); ++i) // each word has room for all its letters
-                QVERIFY(row(i).width() >= list->fontMetrics().horizontalAdvance(e->words()[i]));
             QVERIFY(box->text().isEmpty() && QApplication::focusWidget() == box);
             QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row(1).center());
             QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,

@@ -1,7 +1,5 @@
 // The main window's place, size and state, offscreen and under a window manager: as stored,
-// within the screen, kept at the end, and the smallest size it allows; where the layout puts
-// the controls.
-#include "mainwindow/layout.h"
+// within the screen, kept at the end, and the smallest size it allows.
 #include "mainwindow/screen_fit.h"
 #include "support/main_window_start.h"
 
@@ -19,19 +17,6 @@ class WindowPlaceTest : public QObject, support::MainWindowStart {
 private slots:
     void init() { QVERIFY(enter()); }
     void cleanup() { leave(); }
-
-    void layout()
-    {
-        // The smallest window with a five-letter word: the pictures, the buttons, the panel,
-        // the fields one pitch apart behind their pattern, the next-word button; in twips.
-        const auto l = mainwindow::Anordnen(9600, 6975, 2400, 5);
-        QStringList at;
-        for (auto t :
-             {l.bFolge, l.picBut[0], l.picBut[2], l.picture1, l.feld[0], l.feld[5], l.picBut3})
-            at << QString("%1,%2").arg(t.left).arg(t.top);
-        QCOMPARE(at.join(' '),
-                 "5760,360 8605,480 8605,2160 300,4507 3225,3273 5475,3273 3802,4073");
-    }
 
     void restartRestoresWhatWasStored()
     {
