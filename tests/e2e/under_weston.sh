@@ -19,5 +19,7 @@ for _ in $(seq 100); do
 done
 [ -S "$run/wayland-frostel" ] || { echo "weston did not come up:"; cat "$run/weston.log"; exit 1; }
 unset DISPLAY
-export WAYLAND_DISPLAY=wayland-frostel QT_QPA_PLATFORM=wayland
+# Qt 6.4's Wayland text input reaches for the seat's input device when a text box is clicked,
+# and headless weston has none: no input method here.
+export WAYLAND_DISPLAY=wayland-frostel QT_QPA_PLATFORM=wayland QT_IM_MODULE=none
 "$@"

@@ -1,6 +1,7 @@
-// The real main window, offscreen and under a window manager: what a settings file starts, a
-// game played by keys and clicks, input during a wait (also a real X key press), help and the
-// options from the menu, the end, and what a screen reader hears.
+// The real main window, offscreen and under a window manager: the splash, what a settings file
+// starts, a game played by keys and clicks, input during a wait (also a real X key press), help,
+// about and the options from the menu, the end, and what a screen reader hears.
+#include "about/info_window.h"
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"
 #include "support/main_window_start.h"
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QScreen>
 #include <QStandardPaths>
 
 using support::readAll;
@@ -72,6 +74,19 @@ class MainWindowTest : public QObject, support::MainWindowStart {
 private slots:
     void init() { QVERIFY(enter()); }
     void cleanup() { w_.reset(), leave(); }
+
+    void splashGoesByItself()
+    {
+        splashMs_ = 300;
+        support::onNextModal<about::InfoWindow>([](about::InfoWindow* splash) {
+            QVERIFY(!splash->OK()->isVisible());
+            QTest::keyClick(splash, Qt::Key_Escape); // does nothing
+        });
+        QElapsedTimer clock;
+        clock.start();
+        w_ = startWindow();
+        QVERIFY2(clock.elapsed() >= 285, "the splash went early"); // timers may fire 5 % early
+    }
 
     void startUp_data()
     {
@@ -158,6 +173,18 @@ private slots:
         QVERIFY(help->currentPage() == "index.html" && help->searchField()->isVisible());
         action("hilfe_2")->trigger();
         QCOMPARE(help->currentPage(), QString("helponhelp.html"));
+        // About, centred: OK, the only control that takes the focus, has it; Esc or OK closes it.
+        for (bool byKey : {true, false}) {
+            QPoint offCentre;
+            support::onNextModal<about::InfoWindow>([&](about::InfoWindow* info) {
+                offCentre = info->frameGeometry().center() - info->screen()->geometry().center();
+                QCOMPARE(QApplication::focusWidget(), info->OK());
+                if (byKey) QTest::keyClick(info->OK(), Qt::Key_Escape);
+                else QTest::mouseClick(info->OK(), Qt::LeftButton);
+            });
+            action("about")->trigger();
+            QVERIFY(offCentre.manhattanLength() <= 2);
+        }
         // The end from the menu, Enter takes Yes: the window's place is written.
         support::answerNextBox(Qt::Key_Return);
         action("ende")->trigger();

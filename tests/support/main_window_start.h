@@ -43,7 +43,7 @@ protected:
         if (!QDir::setCurrent(dir_.path())) return false;
         for (const QString& f : QDir().entryList(QDir::Files)) QFile::remove(f);
         QDir(dir_.filePath("config")).removeRecursively();
-        exits_ = 0;
+        exits_ = 0, splashMs_ = 1;
         return !vocabulary::writeWordFile("frostel.dat", {"apple"}) &&
                !vocabulary::writeWordFile("zoo.dat", {"gnu"});
     }
@@ -57,7 +57,7 @@ protected:
         }
         mainwindow::MainWindow::Setup setup;
         setup.profilePath = ini_;
-        setup.splashMs = 1; // a splash all the same: it is the main window's first owned window
+        setup.splashMs = splashMs_; // a splash all the same: the main window's first owned window
         setup.exitProgram = [this](int) { ++exits_; };
         auto w = std::make_unique<mainwindow::MainWindow>(setup);
         w->toolkit().waitScale = 0.01;
@@ -68,7 +68,7 @@ protected:
 
     QTemporaryDir dir_;
     QString oldCwd_, ini_ = dir_.filePath("config/frostel.ini");
-    int exits_ = 0;
+    int exits_ = 0, splashMs_ = 1;
 };
 
 } // namespace support
