@@ -1,0 +1,208 @@
+// The program as it ships: the sounds and word files the build writes into the game's folder,
+// in English and German, the help pages built in for each language; and every text a player
+// sees translated into German, fitting its control at the design size, no menu with two
+// entries on one access key, English as it was.
+#include "about/info_window.h"
+#include "editor/vocabulary_editor.h"
+#include "mainwindow/help_window.h"
+#include "platform/translations.h"
+#include "settings/options_window.h"
+#include "support/main_window_start.h"
+#include "vocabulary/englisch.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QtEndian>
+#include <map>
+
+using support::readAll;
+
+namespace {
+
+using Texts = std::map<QString, QString>; // where it stands -> the text
+
+// Every text of the window and its controls, menus and lists that a player can see; adds to
+// `faults` what overflows a control placed by design and two entries of a menu on one key.
+Texts textsOf(QWidget* window, QStringList* faults)
+{
+    Texts t;
+    t[window->objectName() + " title"] = window->windowTitle();
+    for (QWidget* w : window->findChildren<QWidget*>()) {
+        const QString at = window->objectName() + '/' + w->objectName() + ' ';
+        auto* l = qobject_cast<QLabel*>(w);
+        auto* b = qobject_cast<QAbstractButton*>(w);
+        if (l || b) t[at + "text"] = l ? l->text() : b->text();
+        if (auto* g = qobject_cast<QGroupBox*>(w)) t[at + "title"] = g->title();
+        if (auto* e = qobject_cast<QLineEdit*>(w)) t[at + "hint"] = e->placeholderText();
+        if (auto* list = qobject_cast<QListWidget*>(w))
+            for (int i = 0; i < list->count(); ++i)
+                t[at + QString::number(i)] = list->item(i)->text();
+        if (!w->toolTip().isEmpty()) t[at + "tip"] = w->toolTip();
+        if (!w->accessibleName().isEmpty()) t[at + "name"] = w->accessibleName();
+        // Only what is placed by design has a fixed width; laid out controls grow.
+        if ((l || b) && !t[at + "text"].isEmpty() && w->property("twips").isValid() &&
+            w->sizeHint().width() > w->width() + 1)
+            *faults << at + "overflows";
+        if (auto* m = qobject_cast<QMenu*>(w)) {
+            t[at + "title"] = m->title();
+            QString keys;
+            for (QAction* a : m->actions()) {
+                const QString key = a->text().section('&', 1).left(1).toLower();
+                if (!key.isEmpty() && keys.contains(key)) *faults << m->title() + ": " + a->text();
+                keys += key;
+            }
+        }
+    }
+    for (QAction* a : window->findChildren<QAction*>()) t["action " + a->objectName()] = a->text();
+    return t;
+}
+
+// Texts that read the same in both languages: names, the product, words that are German already.
+const QStringList kSame = QString("Marta|Helene|Matthis|Svenja|Frostel32 v2.31|Frostel|&OK|OK|"
+                                  "&Start|Start|Spiel starten|Spiel beenden|Buchstaben anzeigen|"
+                                  "nächstes Wort|&Spiel|&Hilfe|&Ende|&Suchen|&Optionen...|"
+                                  "nächstes &Wort|&Benutzen der Hilfe|&Info...|frostel.dat|zoo.dat")
+                              .split('|');
+
+// The links of a help page as the help window's parser sees them, and its anchors as "=name".
+QStringList linksOf(const QString& file)
+{
+    QTextDocument doc;
+    doc.setHtml(QString::fromUtf8(readAll(file)));
+    QStringList links;
+    for (QTextBlock block = doc.begin(); block.isValid(); block = block.next())
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            links << format.anchorHref();
+            for (const QString& name : format.anchorNames()) links << '=' + name;
+        }
+    links.removeAll(QString());
+    return links;
+}
+
+} // namespace
+
+class ShippedTest : public QObject, support::MainWindowStart {
+    Q_OBJECT
+    // The main window, the options, the editor, the info and the help as a player opens them.
+    Texts allTexts(QStringList* faults)
+    {
+        auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
+        settings::Profile profile(ini_);
+        settings::OptionsHost options(w->game(), profile, w.get());
+        editor::VocabularyEditor editor(w->game().g, w->game().List1, w->toolkit());
+        about::InfoWindow info(nullptr);
+        mainwindow::HelpWindow help;
+        Texts all;
+        for (QWidget* window :
+             std::initializer_list<QWidget*>{w.get(), options.window(), &editor, &info, &help})
+            all.merge(textsOf(window, faults));
+        return all;
+    }
+private slots:
+    void init() { QVERIFY(enter()); }
+    void cleanup() { leave(); }
+
+    // All fourteen sounds are PCM wave files whose chunks add up to the file.
+    void sounds()
+    {
+        for (int n = 0; n <= 13; ++n) {
+            const QByteArray b = readAll(QStringLiteral(GAME_DIR "/frostl%1.wav").arg(n));
+            const auto at = [&](qsizetype i) { return qFromLittleEndian<quint32>(b.data() + i); };
+            const qsizetype data = b.indexOf("data");
+            QVERIFY2(b.startsWith("RIFF") && b.mid(8, 4) == "WAVE" && b.indexOf("fmt ") > 0 &&
+                         data > 0 && at(4) == b.size() - 8 && quint16(at(20)) == 1 /* PCM */ &&
+                         at(data + 4) == b.size() - data - 8,
+                     qPrintable(QString::number(n)));
+        }
+    }
+
+    // Every shipped word can be played: A to Z only, 20 letters at most, one a line. Each file
+    // is a list of data/words (data/words/de for the German set), sorted as the editor saves;
+    // a frostel list keeps its order, and without one frostel.dat holds the built-in list.
+    void wordFiles()
+    {
+        const QStringList files = QStringLiteral(WORD_FILES).split(u',');
+        QVERIFY(files.contains("frostel.dat") && files.contains("de/frostel.dat"));
+        for (const QString& file : files) {
+            const vocabulary::ReadResult r = vocabulary::readWordFile(GAME_DIR "/" + file);
+            QVERIFY2(!r.failure, qPrintable(file));
+            for (const QString& w : r.words)
+                QVERIFY2(QRegularExpression("^[A-Za-z]{1,20}$").match(w).hasMatch(), qPrintable(w));
+            const QString list = (WORD_LISTS_DIR "/" + file).chopped(4) + ".txt";
+            QStringList source = QString::fromUtf8(readAll(list)) // what the file was made from
+                                     .split(QRegularExpression("\\s+"), Qt::SkipEmptyParts);
+            if (!QFile::exists(list)) source.clear(), vocabulary::WortlisteFuellen(source);
+            if (!file.endsWith("frostel.dat")) source.sort(Qt::CaseInsensitive);
+            QCOMPARE(r.words, source);
+        }
+    }
+
+    // The help for each locale: the German pages when German, else the English ones. Each set
+    // has every page; every link of every page lands on a page and a place that exist, and
+    // every page can be reached from the contents.
+    void helpLinks_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("C") << QLocale::c() << ":/help/";
+        QTest::newRow("French") << QLocale(QLocale::French) << ":/help/";
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << ":/help/de/";
+    }
+
+    void helpLinks()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, folder);
+        QCOMPARE(mainwindow::helpFolder(locale), folder);
+        const QStringList pages = QDir(folder).entryList({"*.html"}, QDir::Files);
+        QVERIFY(pages.size() >= 5);
+        QCOMPARE(pages, QDir(":/help").entryList({"*.html"}, QDir::Files));
+        for (const QString& page : pages) {
+            QVERIFY2(page == "index.html" || linksOf(folder + "index.html").contains(page),
+                     qPrintable(page));
+            for (const QString& href : linksOf(folder + page)) {
+                const QUrl url(href);
+                const QString file = ':' + QUrl("qrc" + folder + page).resolved(url).path();
+                if (href.startsWith('=')) continue;
+                QVERIFY2(url.scheme().isEmpty() && QFile::exists(file),
+                         qPrintable(page + ": " + href));
+                QVERIFY2(!url.hasFragment() || linksOf(file).contains('=' + url.fragment()),
+                         qPrintable(href));
+            }
+        }
+        // The help window searches the pages of the player's language.
+        QLocale::setDefault(locale);
+        const auto hits = mainwindow::HelpWindow().find("schneemann schmilzt");
+        QCOMPARE(hits.isEmpty(), !folder.endsWith("de/"));
+        QLocale::setDefault(QLocale::c());
+    }
+
+    void everythingTranslated()
+    {
+        for (const char* name : {"C", "en_US", "en_GB", "fr_FR"}) // English, the fallback
+            QVERIFY2(!platform::installTranslators(QLocale(name)), name);
+        QStringList faults;
+        const Texts english = allTexts(&faults);
+        QVERIFY(platform::installTranslators(QLocale(QLocale::German, QLocale::Germany)));
+        const Texts german = allTexts(&faults);
+        for (const auto& [at, text] : english)
+            if (german.at(at) == text && !kSame.contains(text) &&
+                !QRegularExpression("^[ 0-9]*$").match(text).hasMatch())
+                faults << at + ": " + text;
+        QCOMPARE(faults.join('|'), QString());
+        // Boxes and the game's own words.
+        QCOMPARE(core::Game::tr("Really end the game?"), QString("Das Spiel wirklich beenden?"));
+    }
+};
+
+QTEST_MAIN(ShippedTest)
+#include "tst_shipped.moc"
