@@ -138,7 +138,7 @@ private slots:
         w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
         core::Game& g = w_->game();
         QAction* weiter = action("weiter");
-        w_->activateWindow();
+        QApplication::setActiveWindow(w_.get()); // also where no keyboard can give it the focus
         QVERIFY(QTest::qWaitForWindowActive(w_.get()));
         // No game: letters and Enter do nothing, the tip button only counts; Ctrl+E asks, Esc is
         // No.
@@ -173,7 +173,8 @@ private slots:
         QVERIFY(help->currentPage() == "index.html" && help->searchField()->isVisible());
         action("hilfe_2")->trigger();
         QCOMPARE(help->currentPage(), QString("helponhelp.html"));
-        // About, centred: OK, the only control that takes the focus, has it; Esc or OK closes it.
+        // About, centred where the program places it: OK, the only control that takes the focus,
+        // has it; Esc or OK closes it.
         for (bool byKey : {true, false}) {
             QPoint offCentre;
             support::onNextModal<about::InfoWindow>([&](about::InfoWindow* info) {
@@ -183,7 +184,7 @@ private slots:
                 else QTest::mouseClick(info->OK(), Qt::LeftButton);
             });
             action("about")->trigger();
-            QVERIFY(offCentre.manhattanLength() <= 2);
+            QVERIFY(offCentre.manhattanLength() <= 2 || support::onWayland()); // placed there
         }
         // The end from the menu, Enter takes Yes: the window's place is written.
         support::answerNextBox(Qt::Key_Return);
