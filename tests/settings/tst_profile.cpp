@@ -49,15 +49,13 @@ private slots:
         for (const QString& line : QString::fromUtf8(readAll(base + ".ops")).split('\n')) {
             QStringList f = line.split('|');
             for (QString& v : f) v.replace("<255 blanks>", QString(255, ' '));
-            if (f[0] == "trap") {
-                trap = f[1];
-            } else if (f[0] == "int") {
+            if (f[0] == "trap") trap = f[1];
+            else if (f[0] == "int")
                 QCOMPARE(profile.GetPrivateProfileInt(f[1], f[2], f[3].toInt()), f[4].toInt());
-            } else if (f[0] == "str") {
+            else if (f[0] == "str")
                 QCOMPARE(profile.GetPrivateProfileString(f[1], f[2], f[3], f[4].toInt()), f[5]);
-            } else if (f[0] == "number") {
-                QCOMPARE(settings::numberForm(f[1].toDouble()), f[2]);
-            } else if (f[0] == "name") {
+            else if (f[0] == "number") QCOMPARE(settings::numberForm(f[1].toDouble()), f[2]);
+            else if (f[0] == "name") {
                 // Read back as a start-up reads it: a default name leaves the game's own.
                 settings::Profile names(tmp.filePath("names.ini"));
                 names.WritePrivateProfileString("Einstellungen", "Spieler1", f[1]);
@@ -75,12 +73,10 @@ private slots:
                 QCOMPARE(rows.join(' '), f[2]);
             } else if (f[0] == "write" || f[0] == "fail") {
                 const auto write = [&] {
-                    return int(profile.WritePrivateProfileString(f[1], f[2], f[3]));
+                    return profile.WritePrivateProfileString(f[1], f[2], f[3]);
                 };
                 QCOMPARE(support::inTrap(folder, trap, write), int(f[0] == "write"));
-            } else {
-                QVERIFY2(line.isEmpty() || line.startsWith('#'), qPrintable(line));
-            }
+            } else QVERIFY2(line.isEmpty() || line.startsWith('#'), qPrintable(line));
         }
         // No .out: the file must be as it was, or still missing; and nothing is left beside it.
         QCOMPARE(readAll(path), expanded(base + (QFile::exists(base + ".out") ? ".out" : ".in")));

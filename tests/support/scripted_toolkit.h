@@ -5,7 +5,6 @@
 #include "core/toolkit.h"
 
 #include <QStringList>
-#include <deque>
 #include <functional>
 #include <stdexcept>
 
@@ -16,10 +15,10 @@ public:
     // What happened, in order: "serve", "wait 0.1", "hold", "sound 4", "seed",
     // "box 36 Start: Really start a new game?", "end".
     QStringList log;
-    std::deque<int> answers;    // for Yes/No boxes, in order
-    std::deque<double> randoms; // values the generator gives; 0 once they run out
-    double charWidth = 120.0;   // twips a character in 12-point type
-    double width = 9600.0;      // the main window's outer width
+    QList<int> answers;       // for Yes/No boxes, in order
+    QList<double> randoms;    // values the generator gives; 0 once they run out
+    double charWidth = 120.0; // twips a character in 12-point type
+    double width = 9600.0;    // the main window's outer width
     // The player, called with each "serve", "wait" and "hold" and with a question that
     // `answers` does not answer; returns the answer to a question. Without one, a hold or
     // such a question is an error: nothing would ever end it.
@@ -36,14 +35,14 @@ public:
     }
     double clock() override { return now_; }
     void seedRandom(double) override { log << "seed"; }
-    double random() override { return randoms.empty() ? 0.0 : take(randoms); }
+    double random() override { return randoms.isEmpty() ? 0.0 : randoms.takeFirst(); }
     int msgBox(const QString& text, int type, const QString& title) override
     {
         const QString entry = QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
-        if (type == core::kYesNoQuestion && answers.empty()) return note(entry, true);
+        if (type == core::kYesNoQuestion && answers.isEmpty()) return note(entry, true);
         log << entry;
         if (type != core::kYesNoQuestion) return core::kAnswerOk;
-        return take(answers);
+        return answers.takeFirst();
     }
     void playSound(int n) override { log << QStringLiteral("sound %1").arg(n); }
     double textWidth(const QString& text) override { return text.size() * charWidth; }
@@ -51,12 +50,6 @@ public:
     void endProgram() override { log << "end"; }
 
 private:
-    template <typename T> static T take(std::deque<T>& queue)
-    {
-        const T first = queue.front();
-        queue.pop_front();
-        return first;
-    }
     int note(const QString& entry, bool needsPlayer = false)
     {
         if (needsPlayer && !player)
