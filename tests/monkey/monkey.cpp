@@ -183,9 +183,8 @@ private:
             check(held_.endPending || held_.drawAsked || !g.SpielLaeuft,
                   "one draw per word end: a draw that no word end, new game or option asked for");
             held_.endPending = held_.drawAsked = false;
-        } else if (b.B_Folge0_Height == core::kPictureSize) {
-            held_.drawing = false;
         }
+        if (b.B_Folge0_Height == core::kPictureSize) held_.drawing = false;
         if (game.busy()) return; // the rest holds between routines
         held_.drawAsked = false;
         const bool underWay = g.SpielLaeuft && !b.weiter_Enabled && !g.Wort.isEmpty() &&

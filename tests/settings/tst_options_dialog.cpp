@@ -82,8 +82,8 @@ private slots:
                 };
                 QElapsedTimer clock;
                 clock.start();
-                QTest::mousePress(w->plumin()[0], Qt::RightButton, {},
-                                  {15, 15}); // lower right half
+                // Its lower right half.
+                QTest::mousePress(w->plumin()[0], Qt::RightButton, {}, {15, 15});
                 QCOMPARE(state(), QString("3 1110"));
                 QTRY_COMPARE_WITH_TIMEOUT(state(), QString("2 1100"), 3000);
                 QVERIFY2(clock.elapsed() >= 180, "repeats after 200 ms, not before");
