@@ -153,7 +153,6 @@ private slots:
     {
         QTest::addColumn<QLocale>("locale");
         QTest::addColumn<QString>("folder");
-        QTest::newRow("C") << QLocale::c() << ":/help/";
         QTest::newRow("French") << QLocale(QLocale::French) << ":/help/";
         QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << ":/help/de/";
     }

@@ -44,19 +44,6 @@ Q_DECLARE_METATYPE(Act)
 class OptionsDialogTest : public QObject, support::MainWindowStart {
     Q_OBJECT
     std::unique_ptr<mainwindow::MainWindow> w_;
-    // With APPLE under way and one miss, runs `act` on the options window from the menu.
-    void options(const Act& act)
-    {
-        w_ = startWindow();
-        QVERIFY(support::writeBytes("late.dat", "owl\r\n")); // too late for the list
-        w_->findChild<QAction*>("start")->trigger();
-        QTest::keyClick(w_.get(), Qt::Key_Z);
-        support::onNextModal<W>([&](W* o) {
-            o->Spieler_Name()[0]->setFocus();
-            act(o);
-        });
-        w_->findChild<QAction*>("opt")->trigger();
-    }
 private slots:
     void init() { QVERIFY(enter()); }
     void cleanup() { w_.reset(), leave(); }
@@ -142,7 +129,13 @@ private slots:
     {
         QFETCH(Act, act);
         QFETCH(QString, after);
-        options(act);
+        // With APPLE under way and one miss, the options window from the menu.
+        w_ = startWindow();
+        QVERIFY(support::writeBytes("late.dat", "owl\r\n")); // too late for the list
+        w_->findChild<QAction*>("start")->trigger();
+        QTest::keyClick(w_.get(), Qt::Key_Z);
+        support::onNextModal<W>([&](W* o) { o->Spieler_Name()[0]->setFocus(), act(o); });
+        w_->findChild<QAction*>("opt")->trigger();
         const QString now = support::optionsLine(w_->game());
         QString seen = now + (w_->game().g.Fehler == 0 ? ", new game" : "");
         w_.reset();
