@@ -52,15 +52,6 @@ template <class T> void onNextModal(std::function<void(T*)> act)
     });
 }
 
-// Answers the next message box by a key; notes its title and text.
-inline void answerNextBox(Qt::Key key, QStringList* seen = nullptr)
-{
-    onNextModal<QMessageBox>([=](QMessageBox* box) {
-        if (seen) seen->append(box->windowTitle() + ": " + box->text());
-        QTest::keyClick(box, key);
-    });
-}
-
 // Runs `act` once, from the loop, the first time `action` comes up enabled.
 inline void whenEnabled(QAction* action, const std::function<void()>& act)
 {
