@@ -30,9 +30,8 @@ private:
     {
         std::fprintf(stderr, "keys: window %s \"%s\"\n", qPrintable(w->objectName()),
                      qPrintable(w->windowTitle()));
-        if (w->windowTitle() == "Program end") {
-            QTest::keyClick(w, Qt::Key_Return); // Yes is the default
-        } else if (w->objectName() == "eisfig") {
+        if (w->windowTitle() == "Program end") QTest::keyClick(w, Qt::Key_Return); // Yes: default
+        else if (w->objectName() == "eisfig") {
             // A compositor gives keyboard focus to a window only where there is a keyboard.
             if (!QApplication::activeWindow()) QApplication::setActiveWindow(w);
             QTest::keyClick(w, Qt::Key_E, Qt::ControlModifier);

@@ -41,8 +41,7 @@ public:
         const QString entry = QStringLiteral("box %1 %2: %3").arg(type).arg(title, text);
         if (type == core::kYesNoQuestion && answers.isEmpty()) return note(entry, true);
         log << entry;
-        if (type != core::kYesNoQuestion) return core::kAnswerOk;
-        return answers.takeFirst();
+        return type == core::kYesNoQuestion ? answers.takeFirst() : core::kAnswerOk;
     }
     void playSound(int n) override { log << QStringLiteral("sound %1").arg(n); }
     double textWidth(const QString& text) override { return text.size() * charWidth; }
