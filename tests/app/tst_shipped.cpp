@@ -1,7 +1,6 @@
-// The program as it ships: the sounds and word files the build writes into the game's folder,
-// in English and German, the help pages built in for each language; and every text a player
-// sees translated into German, fitting its control at the design size, no menu with two
-// entries on one access key, English as it was.
+// The program as it ships: the sounds and word files the build writes, the help pages of each
+// language; every text a player sees in German, fitting its control, no menu with two entries
+// on one access key, English as it was.
 #include "about/info_window.h"
 #include "editor/vocabulary_editor.h"
 #include "mainwindow/help_window.h"

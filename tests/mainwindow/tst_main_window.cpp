@@ -1,6 +1,5 @@
-// The real main window, offscreen and under a window manager: the splash, what a settings file
-// starts, a game played by keys and clicks, a real X key press during a wait, help,
-// about and the options from the menu, the end, and what a screen reader hears.
+// The real main window, offscreen and under window managers: the splash, a settings file's start,
+// a game by keys and clicks, a real key during a wait, the menus, the end, a screen reader.
 #include "about/info_window.h"
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"

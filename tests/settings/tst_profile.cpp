@@ -1,6 +1,5 @@
-// The settings file against golden cases: a file before, the operations with what they
-// return, the file after, also where writes fail; with the number form, which stored names
-// stand for the default ones, and which word files the options offer.
+// The settings file against golden cases: a file before, operations and what they return, the
+// file after, failed writes too; the number form, default names, the word files offered.
 #include "../support/files.h"
 #include "../support/trap_folder.h"
 #include "settings/options_rules.h"

@@ -1,6 +1,5 @@
-// The shared widget library: every picture the manifest names is built in at its size and at
-// twice that; design values in twips brought to pixels and windows centred; panel frames as
-// they show on the screen.
+// The shared widget library: every picture of the manifest built in at both scales, design
+// values in twips brought to pixels, windows centred, panel frames as they show.
 #include "widgets/panel.h"
 #include "widgets/twips.h"
 #include "widgets/window_design.h"
