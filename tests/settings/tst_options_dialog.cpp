@@ -87,12 +87,12 @@ private slots:
             "4 3 1 011 zoo.dat ~, new game");
         row("Alt+S, Alt+H: sound, show solution",
             {keys({Qt::ALT | Qt::Key_S, Qt::ALT | Qt::Key_H})}, "4 3 1 000 frostel.dat ~");
-        row("the counters by the keyboard: Down, Up", {[](W* w) {
+        row("the counters by the keyboard: Down, Up, not above 3 tips", {[](W* w) {
                 QTest::keyClick(w->plumin()[0], Qt::Key_Down);
-                for (Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up})
+                for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
                     QTest::keyClick(w->plumin()[1], key);
             }},
-            "3 2 1 011 frostel.dat ~, new game");
+            "3 3 1 011 frostel.dat ~, new game");
         // Centred, with the word files of the start-up; the editor centred over it, and back from
         // it, the focus on OK.
         row("Tab, the editor", {[](W* w) {
