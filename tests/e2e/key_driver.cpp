@@ -14,11 +14,7 @@ namespace {
 
 class KeyDriver : public QObject {
 public:
-    KeyDriver()
-    {
-        clock_.start();
-        QCoreApplication::instance()->installEventFilter(this);
-    }
+    KeyDriver() { clock_.start(), qApp->installEventFilter(this); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
