@@ -14,9 +14,14 @@ struct Seen {
     QString shown;     // the word's fields: a letter, or ' ' where covered
     QString word;      // the word being played, empty with none
     bool open = false; // the word takes letters
+    QString hit;       // letters played that the word holds
     QString missed;    // letters played that the word does not hold
     int fehler = 0;
     int turn = 0;
+    int tips = 0;       // tips taken of this word, as the game counts them
+    bool tipOn = false; // a tip can be taken
+    bool next = false;  // the next word waits for Enter
+
     std::array<int, core::kPlayers> points{};
 };
 
@@ -25,7 +30,7 @@ class Announcer {
 
 public:
     static Seen look(const core::Game& game);
-    // What changed from `before` to `after`, in the order a player takes it in.
+    // What changed from `before` to `after`, in the order a player takes it in, as sentences.
     static QStringList changes(const Seen& before, const Seen& after, const core::Game& game);
 
     // What a field shows: its letter, or ' ' while covered.

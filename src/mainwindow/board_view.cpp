@@ -4,10 +4,12 @@
 #include "ui_eisfig.h"
 #include "widgets/picture_button.h"
 #include "widgets/pictures.h"
+#include "widgets/spoken_notice.h"
 #include "widgets/twips.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QTimer>
 
 namespace mainwindow {
 namespace {
@@ -125,13 +127,17 @@ void MainWindow::sync()
 void MainWindow::announce()
 {
     const Seen now = Announcer::look(game_);
-    // A screen reader hears the description of the board change, as a live region.
-    for (const QString& text : Announcer::changes(seen_, now, game_)) {
-        ui_->client->setAccessibleDescription(text);
-        QAccessibleEvent alert(ui_->client, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
-    seen_ = now;
+    const QStringList news = Announcer::changes(heard_, now, game_);
+    heard_ = now;
+    if (news.isEmpty()) return;
+    untold_ << news;
+    if (!gather_->isActive()) gather_->start();
+}
+
+void MainWindow::tell()
+{
+    notice_->say(untold_.join(' '));
+    untold_.clear();
 }
 
 void MainWindow::syncTiles()

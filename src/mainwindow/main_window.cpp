@@ -7,6 +7,7 @@
 #include "ui_eisfig.h"
 #include "widgets/picture_button.h"
 #include "widgets/pictures.h"
+#include "widgets/spoken_notice.h"
 #include "widgets/twips.h"
 
 #include <QApplication>
@@ -40,6 +41,11 @@ MainWindow::MainWindow(Setup setup)
     Punkt_[0] = ui_->Punkt_0;
     Feld_.push_back(ui_->Feld_0);
     loadPictures();
+    notice_ = new widgets::SpokenNotice(ui_->client);
+    gather_ = new QTimer(this);
+    gather_->setSingleShot(true);
+    gather_->setInterval(200); // a miss and the turn it passes, but not the next move
+    connect(gather_, &QTimer::timeout, this, &MainWindow::tell);
 
     tk_.setMainWindow(this);
     tk_.beforeEvents = [this] { sync(); };

@@ -16,12 +16,14 @@
 #include <vector>
 
 class QLabel;
+class QTimer;
 namespace Ui {
 class eisfig;
 }
 namespace widgets {
 class PictureButton;
-}
+class SpokenNotice;
+} // namespace widgets
 namespace settings {
 class OptionsHost;
 }
@@ -94,6 +96,7 @@ private:
     void syncFields();
     void syncCommands();
     void announce();
+    void tell();
     void setOuterSize(int widthTwips, int heightTwips);
     void fitFrame();
     void storePlace();
@@ -123,7 +126,12 @@ private:
     std::array<bool, core::kStages> stageLoaded_{};
     std::array<int, core::kSymbols> shownSymbol_{};
     int shownHeight_ = -1;
-    Seen seen_; // what a screen reader was last told of
+    // What a screen reader was last told of. A move shows in steps; what it shows within
+    // a moment is said as one.
+    Seen heard_;
+    QStringList untold_;
+    QTimer* gather_ = nullptr;
+    widgets::SpokenNotice* notice_ = nullptr;
 
     HelpWindow* help_ = nullptr;
     settings::OptionsHost* options_ = nullptr;

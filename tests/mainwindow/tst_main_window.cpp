@@ -46,15 +46,6 @@ struct KeySeen : QObject {
     }
 };
 
-// Every description a screen reader is told of as news, in order.
-QStringList heard;
-
-void listen(QAccessibleEvent* event)
-{
-    if (event->type() != QAccessible::Alert) return;
-    if (auto* w = qobject_cast<QWidget*>(event->object())) heard << w->accessibleDescription();
-}
-
 // The names a screen reader reads for the controls, one after the other.
 QString namesOf(std::initializer_list<QWidget*> controls)
 {
@@ -250,34 +241,27 @@ private slots:
         QVERIFY(clock.elapsed() < 5000);
     }
 
-    // What a screen reader gets of a short game: names and roles of the board's controls, and
-    // the events that tell what happened, read through Qt's accessibility interfaces.
-    void whatAScreenReaderHears()
+    // What a screen reader reads of the board's controls, and presses: what it says of the
+    // game is heard through Orca itself (e2e_spoken_game).
+    void whatAScreenReaderReads()
     {
         if (qEnvironmentVariableIsEmpty("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"))
             QSKIP("needs the accessibility bus (runs under with_atspi.sh)");
         QAccessible::setActive(true);
-        QAccessible::installUpdateHandler(listen);
         w_ = startWindow("[Einstellungen]\r\nSound= 0\r\nAnzahl= 2\r\n");
         QCOMPARE(QAccessible::queryAccessibleInterface(w_->tileLabel(0))->role(),
                  QAccessible::Button);
         QCOMPARE(namesOf({w_->tileLabel(0), w_->picBut(0), w_->playerLabel(0), w_->playerLabel(1)}),
                  "Letter A | Start game | Marta, points: 0, at turn | Helene, points: 0");
-
-        heard.clear();
         QTest::mouseClick(static_cast<QWidget*>(w_->picBut(0)), Qt::LeftButton);
         QTest::keyClick(w_.get(), Qt::Key_P);
         QTest::keyClick(w_.get(), Qt::Key_Z);
-        QCOMPARE(heard, (QStringList{"New word: 5 letters", "P uncovered", "No Z: stage 1 of 9",
-                                     "Helene's turn"}));
         QCOMPARE(namesOf({w_->fieldLabel(1), w_->fieldLabel(2), w_->pictureLabel(1),
                           w_->playerLabel(1)}),
                  "Letter 1 of 5, covered | Letter 2 of 5, P | Frostel, stage 1 of 9 | "
                  "Helene, points: 0, at turn");
 
-        // A screen reader presses tiles itself; the rest of the word wins Helene her point, and
-        // the next word follows once the finished one has been seen.
-        heard.clear();
+        // A screen reader presses tiles itself; the rest of the word wins Helene her point.
         for (int t : {0, 11}) {
             QAccessibleInterface* i = QAccessible::queryAccessibleInterface(w_->tileLabel(t));
             i->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -285,11 +269,7 @@ private slots:
         }
         support::whenEnabled(action("weiter"), [this] { action("weiter")->trigger(); });
         QTest::keyClick(w_.get(), Qt::Key_E);
-        QCOMPARE(heard.mid(0, 5),
-                 (QStringList{"A uncovered", "L uncovered", "E uncovered", "Word solved: APPLE",
-                              "Helene scores a point, 1 in all"}));
         QCOMPARE(namesOf({w_->playerLabel(1)}), "Helene, points: 1, at turn");
-        QAccessible::installUpdateHandler(nullptr);
         QAccessible::setActive(false);
     }
 };

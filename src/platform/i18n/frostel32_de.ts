@@ -4,40 +4,8 @@
 <context>
     <name>Announcer</name>
     <message>
-        <source>New word: %1 letters</source>
-        <translation>Neues Wort: %1 Buchstaben</translation>
-    </message>
-    <message>
-        <source>No %1: stage %2 of %3</source>
-        <translation>Kein %1: Stufe %2 von %3</translation>
-    </message>
-    <message>
-        <source>Word lost</source>
-        <translation>Wort verloren</translation>
-    </message>
-    <message>
-        <source>The word was %1</source>
-        <translation>Das Wort war %1</translation>
-    </message>
-    <message>
-        <source>%1 uncovered</source>
-        <translation>%1 aufgedeckt</translation>
-    </message>
-    <message>
-        <source>Word solved: %1</source>
-        <translation>Wort erraten: %1</translation>
-    </message>
-    <message>
-        <source>%1 scores a point, %2 in all</source>
-        <translation>%1 bekommt einen Punkt, %2 insgesamt</translation>
-    </message>
-    <message>
         <source>%1 has won!</source>
         <translation>%1 hat gewonnen!</translation>
-    </message>
-    <message>
-        <source>%1&apos;s turn</source>
-        <translation>%1 ist dran</translation>
     </message>
     <message>
         <source>Letter %1</source>
@@ -70,6 +38,54 @@
     <message>
         <source>%1, stage %2 of %3</source>
         <translation>%1, Stufe %2 von %3</translation>
+    </message>
+    <message>
+        <source>New word: %1 letters.</source>
+        <translation>Neues Wort: %1 Buchstaben.</translation>
+    </message>
+    <message>
+        <source>Miss: %1, stage %2 of %3.</source>
+        <translation>Daneben: %1, Stufe %2 von %3.</translation>
+    </message>
+    <message>
+        <source>Word lost.</source>
+        <translation>Wort verloren.</translation>
+    </message>
+    <message>
+        <source>The word was %1.</source>
+        <translation>Das Wort war %1.</translation>
+    </message>
+    <message>
+        <source>Tip: %1, once.</source>
+        <translation>Tipp: %1, einmal.</translation>
+    </message>
+    <message>
+        <source>Tip: %1, %2 times.</source>
+        <translation>Tipp: %1, %2-mal.</translation>
+    </message>
+    <message>
+        <source>Hit: %1, once.</source>
+        <translation>Treffer: %1, einmal.</translation>
+    </message>
+    <message>
+        <source>Hit: %1, %2 times.</source>
+        <translation>Treffer: %1, %2-mal.</translation>
+    </message>
+    <message>
+        <source>Word solved: %1.</source>
+        <translation>Wort erraten: %1.</translation>
+    </message>
+    <message>
+        <source>%1 scores a point, %2 in all.</source>
+        <translation>%1 bekommt einen Punkt, %2 insgesamt.</translation>
+    </message>
+    <message>
+        <source>%1&apos;s turn.</source>
+        <translation>%1 ist dran.</translation>
+    </message>
+    <message>
+        <source>Next word: Enter.</source>
+        <translation>Nächstes Wort: Eingabetaste.</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,17 @@
+#pragma once
+// Says a sentence through a screen reader without moving the focus: Orca speaks a
+// notification each time one appears. Qt 6.4 has no other event Orca speaks for an object
+// that does not hold the focus. A reader keeps only the last of several said at one time, so
+// what belongs together goes in one sentence.
+#include <QWidget>
+
+namespace widgets {
+
+class SpokenNotice : public QWidget {
+    Q_OBJECT
+public:
+    explicit SpokenNotice(QWidget* parent);
+    void say(const QString& sentence);
+};
+
+} // namespace widgets
