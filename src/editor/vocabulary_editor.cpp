@@ -53,6 +53,8 @@ VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core:
     ui_->Speichern->setText(tr("&Save"));
     ui_->Abbruch->setText(tr("&Cancel"));
     ui_->Text1->installEventFilter(this);
+    ui_->Text1->setAccessibleName(tr("Word"));
+    ui_->List1->setAccessibleName(tr("Words"));
     ui_->List1->setModel(words_);
     ui_->List1->setItemDelegate(rows_);
     connect(ui_->List1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -81,6 +83,8 @@ void VocabularyEditor::ListeLaden()
     rows_->measure(words_->words(), ui_->List1->font());
     if (r.failure)
         tk_.msgBox(loadFailureText(g_.WortDatei, *r.failure), core::kOkExclamation, errorTitle());
+    // Typing goes to the word box, also once a box has told of a failure.
+    ui_->Text1->setFocus();
 }
 
 void VocabularyEditor::List1_Click()

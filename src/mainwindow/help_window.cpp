@@ -1,5 +1,8 @@
 #include "mainwindow/help_window.h"
 
+#include "widgets/focus_ring.h"
+#include "widgets/window_design.h"
+
 #include <QDir>
 #include <QFile>
 #include <QHBoxLayout>
@@ -8,7 +11,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
+#include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -39,6 +44,27 @@ const QList<Page>& pages(const QString& folder)
     return list;
 }
 
+// The page. Its focused link is ringed as a focused control is: the page's own mark is a
+// dotted line that is hard to see.
+class PageView : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QTextBrowser::paintEvent(event);
+        const QTextCursor link = textCursor();
+        if (!hasFocus() || !link.hasSelection() || !link.charFormat().isAnchor()) return;
+        QTextCursor start = link, end = link;
+        start.setPosition(link.selectionStart());
+        end.setPosition(link.selectionEnd());
+        QPainter painter(viewport());
+        widgets::drawFocusRing(painter,
+                               cursorRect(start).united(cursorRect(end)).adjusted(-2, -2, 2, 2));
+    }
+};
+
 } // namespace
 
 QString helpFolder(const QLocale& locale)
@@ -57,9 +83,22 @@ HelpWindow::HelpWindow(QWidget* parent)
     auto* back = bar->addAction(tr("&Back"));
     auto* forward = bar->addAction(tr("&Forward"));
     auto* searchAction = bar->addAction(tr("&Search"));
-    browser_ = new QTextBrowser(this);
+    // Each on a key as browsers have them, and each a stop of Tab.
+    contents->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Home));
+    back->setShortcut(QKeySequence::Back);
+    forward->setShortcut(QKeySequence::Forward);
+    searchAction->setShortcut(QKeySequence::Find);
+    for (QAction* a : bar->actions()) {
+        a->setToolTip(a->toolTip() + " (" + a->shortcut().toString(QKeySequence::NativeText) + ')');
+        bar->widgetForAction(a)->setFocusPolicy(Qt::TabFocus);
+    }
+    for (const QKeySequence& key :
+         {QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
+    browser_ = new PageView(this);
     browser_->setSearchPaths({folder_});
     browser_->setOpenExternalLinks(false);
+    browser_->setAccessibleName(tr("Help page"));
 
     searchPane_ = new QWidget(this);
     field_ = new QLineEdit(searchPane_);
@@ -67,6 +106,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     field_->setClearButtonEnabled(true);
     auto* go = new QPushButton(tr("&Find"), searchPane_);
     results_ = new QListWidget(searchPane_);
+    field_->setAccessibleName(tr("Words to find"));
+    results_->setAccessibleName(tr("Pages found"));
     auto* searchLayout = new QVBoxLayout(searchPane_);
     searchLayout->setContentsMargins(0, 0, 0, 0);
     auto* row = new QHBoxLayout;
@@ -107,6 +148,13 @@ HelpWindow::HelpWindow(QWidget* parent)
 void HelpWindow::open(const QString& page)
 {
     browser_->setSource(QUrl(page));
+    bringUp();
+}
+
+void HelpWindow::bringUp()
+{
+    // Over the game, not wherever the window manager would drop it.
+    if (!isVisible() && parentWidget()) widgets::centreOnOwner(this, parentWidget());
     show();
     raise();
     activateWindow();
@@ -119,9 +167,7 @@ void HelpWindow::showHelpOnHelp() { open(QStringLiteral("helponhelp.html")); }
 void HelpWindow::search()
 {
     searchPane_->show();
-    show();
-    raise();
-    activateWindow();
+    bringUp();
     field_->setFocus();
     field_->selectAll();
 }

@@ -33,6 +33,7 @@ public:
 
 private:
     void open(const QString& page);
+    void bringUp();
     void runSearch();
 
     const QString folder_;

@@ -1,9 +1,25 @@
 #include "platform/lean_style.h"
 
+#include "widgets/focus_ring.h"
+
 #include <QPainter>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace platform {
+
+void LeanStyle::polish(QApplication* app)
+{
+    QProxyStyle::polish(app);
+    widgets::FocusRing::follow();
+}
+
+void LeanStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const
+{
+    if (element == PE_FrameFocusRect) widgets::drawFocusRing(*painter, option->rect);
+    else QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
 
 QIcon LeanStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                               const QWidget* widget) const

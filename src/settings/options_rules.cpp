@@ -26,6 +26,8 @@ int captionNumber(const QString& caption)
     return int(negative ? -value : value);
 }
 
+SpinRange spinRange(Spin spin) { return spin == Spin::Players ? SpinRange{1, 4} : SpinRange{0, 3}; }
+
 SpinStep spinStep(Spin spin, const QString& caption, double x, double y)
 {
     SpinStep step;
@@ -37,8 +39,8 @@ SpinStep spinStep(Spin spin, const QString& caption, double x, double y)
         step.face = 2;
         --w;
     }
-    const bool inRange = spin == Spin::Players ? (w > 0 && w < 5) : (w > -1 && w < 4);
-    if (inRange) step.caption = QString::number(w);
+    const SpinRange range = spinRange(spin);
+    if (w >= range.minimum && w <= range.maximum) step.caption = QString::number(w);
     return step;
 }
 

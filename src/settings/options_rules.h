@@ -13,6 +13,10 @@ int captionNumber(const QString& caption);
 
 // The two counts of the window: 0 players (1 to 4), 1 tips (0 to 3).
 enum class Spin { Players = 0, Tips = 1 };
+struct SpinRange {
+    int minimum, maximum;
+};
+SpinRange spinRange(Spin spin);
 
 struct SpinStep {
     int face = 0;                   // the face the spin button shows: 1 up, 2 down

@@ -1,5 +1,6 @@
 #include "settings/options_window.h"
 
+#include "settings/spin_accessible.h"
 #include "settings/stored_settings.h"
 #include "ui_einst.h"
 #include "widgets/panel.h"
@@ -15,8 +16,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QTimer>
 #include <cmath>
 
@@ -98,19 +97,17 @@ void OptionsWindow::Form_Load(const QStringList& rows)
         game_.einst.Anzeige = on ? 1 : 0;
         changed(OptionChange::Anzeige);
     });
-    for (QLabel* spin : plumin_) {
-        spin->installEventFilter(this);
-        // Also by keyboard: the two counters are the last stops of the tab order, so the
-        // order of the other controls stays as it was.
-        spin->setFocusPolicy(Qt::StrongFocus);
+    // Also by keyboard: the counters follow OK in the tab order, each reached by its label's key.
+    for (int i = 0; i < 2; ++i) {
+        plumin_[i]->installEventFilter(this);
+        makeSpinButton(plumin_[i], zahl_[i], Spin(i));
     }
-    setTabOrder(ui_->EditButt, plumin_[0]);
-    setTabOrder(plumin_[0], plumin_[1]);
-    // Qt puts stops added behind the last one at the front; the window still opens on the first
-    // name.
-    ui_->Spieler_Name_0->setFocus();
     plumin_[0]->setAccessibleName(tr("Players"));
     plumin_[1]->setAccessibleName(tr("Tips"));
+    for (int i = 0; i < core::kPlayers; ++i)
+        spielerName_[i]->setAccessibleName(tr("Name of player %1").arg(i + 1));
+    ui_->wortsch->setAccessibleName(tr("Vocabulary"));
+    ui_->Motiv->setAccessibleName(tr("Picture"));
     connect(timer1_, &QTimer::timeout, this, &OptionsWindow::Timer1_Timer);
     connect(ui_->OK, &QPushButton::clicked, this, &OptionsWindow::OK_Click);
     connect(ui_->EditButt, &QPushButton::clicked, this, &OptionsWindow::EditButt_Click);
@@ -189,8 +186,6 @@ bool OptionsWindow::eventFilter(QObject* watched, QEvent* event)
             plumin_MouseUp(i);
             return true;
         }
-        case QEvent::FocusIn:
-        case QEvent::FocusOut: update(); return false;
         default: return false;
         }
     }
@@ -213,13 +208,6 @@ void OptionsWindow::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     widgets::drawFrame(painter, kNamesFrame, true);
     widgets::drawFrame(painter, kRepeatFrame, true);
-    for (QLabel* spin : plumin_) {
-        if (!spin->hasFocus()) continue;
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.rect = spin->geometry().adjusted(-2, -2, 1, 1);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
-    }
 }
 
 void OptionsWindow::fitNumbers()
@@ -281,7 +269,7 @@ void OptionsWindow::Timer1_Timer()
 void OptionsWindow::Zahl_Change(int Index)
 {
     const int16_t n = int16_t(captionNumber(zahl_[Index]->text()));
-    plumin_[Index]->setAccessibleDescription(QString::number(n));
+    spinValueChanged(plumin_[Index]);
     if (Index == 0) {
         game_.g.AnzSpieler = n;
         // A disabled box keeps its name; OK stores it all the same.

@@ -1,8 +1,6 @@
 #include "widgets/picture_button.h"
 
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace widgets {
 
@@ -34,12 +32,6 @@ void PictureButton::paintEvent(QPaintEvent*)
         p.setPen(QColor(64, 64, 64));
         p.drawLine(0, 0, width() - 1, 0);
         p.drawLine(0, 0, 0, height() - 1);
-    }
-    if (hasFocus()) {
-        QStyleOptionFocusRect opt;
-        opt.initFrom(this);
-        opt.rect = rect().adjusted(3, 3, -3, -3);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opt, &p, this);
     }
 }
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # The real program under Xvfb with a window manager, by keys alone: start a game by its
-# shortcut, play a word to its end, end the wait with Enter, change the options and the word
-# file through their windows, quit through the menu, and check the titles the window manager
-# shows and what the settings and word files then hold.
+# shortcut, take a tip, play the word to its end, end the wait with Enter; in the options a name,
+# both counters by their labels' keys and another word list, whose file has gone by then: the
+# editor says so and takes a new word into its box; the help opened and closed; quit through
+# the menu. Checks the titles the window manager shows and what the files then hold.
 #   under_xvfb.sh with_openbox.sh play_a_word.sh FROSTEL32_BINARY
 #   under_xvfb.sh with_openbox.sh play_a_word.sh --installed   as the menu starts an installed game
 set -u
@@ -41,6 +42,7 @@ if [ "$bin" = --installed ]; then
     folder=$XDG_DATA_HOME/frostel32
     mkdir -p "$folder"
     printf 'ox\r\n' >"$folder/frostel.dat"
+    printf 'fig\r\n' >"$folder/groceries.dat"
     start=$(sed -n 's/^Exec=//p' /usr/share/applications/net.frostel32.frostel32.desktop)
     (cd "$HOME" && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start) \
         >"$work/game.log" 2>&1 & gpid=$!
@@ -50,6 +52,7 @@ else
     cp "$bin" "$(dirname "$bin")"/frostl*.wav "$folder/"
     cp "$(dirname "$bin")/frostel32-sound.so" "$folder/" 2>/dev/null
     printf 'ox\r\n' >"$folder/frostel.dat"
+    printf 'fig\r\n' >"$folder/groceries.dat"
     (cd "$folder" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!
 fi
 win=$(window "Frostel32 v2.31") || exit 1 # the splash comes first
@@ -57,24 +60,33 @@ xdotool windowactivate --sync "$win" 2>/dev/null
 sleep 0.3
 xdotool key --window "$win" ctrl+s
 sleep 2.5 # the picture grows, the fields are laid out
-xdotool type --delay 150 ox
+xdotool key ctrl+t # uncovers the O
+xdotool type --delay 150 x
 sleep 1.5
 # The sound of the draw has brought in the sound module.
 grep -q '/frostel32-sound.so$' /proc/$gpid/maps || fail "the sound module was not loaded"
 xdotool key Return # next word
 sleep 2.5
-# The options and the editor by keys alone: a new name, a word added and saved, one player
-# fewer by the counter's Down key, and OK by Enter.
 xdotool key alt+g o
 window "Options" >/dev/null || exit 1
 xdotool type --delay 100 Kim # the first name has the focus, all of it selected
+xdotool key alt+p Down alt+t Down alt+v Down # 3 players, 2 tips, the next list
+rm "$folder/groceries.dat"
 xdotool key alt+e
-window "frostel.dat" >/dev/null || exit 1
+window "groceries.dat" >/dev/null || exit 1
+sleep 0.5
+xdotool key Return # the box that the file is not found
 xdotool type --delay 100 yak
 xdotool key Return alt+s alt+o # Add is the default; Save; OK
 sleep 0.5
-xdotool key Tab Tab Tab Tab Down Return # from OK past the lists and the editor's button
+xdotool key Return # OK has the focus again
 sleep 0.5
+xdotool key F1
+window "Frostel32 Help" >/dev/null || exit 1
+xdotool key Escape
+sleep 0.5
+[ -z "$(xdotool search --all --pid $gpid --onlyvisible --name '^Frostel32 Help')" ] ||
+    fail "Escape did not close the help"
 xdotool key ctrl+e
 window "Program end" >/dev/null || exit 1
 xdotool key Return # Yes is the default
@@ -90,14 +102,16 @@ for key in Left Top Width Height Status; do
 done
 grep -q $'^Status= 0\r$' "$ini" || fail "Status not ' 0': $(cat -A "$ini")"
 grep -q $'^Width= 9600\r$' "$ini" || fail "Width not 9600 twips: $(cat -A "$ini")"
-for line in 'Spieler1=Kim' 'Anzahl= 3'; do
+for line in 'Spieler1=Kim' 'Anzahl= 3' 'Tips= 2' 'Datei=groceries.dat'; do
     grep -q "^$line"$'\r$' "$ini" || fail "no $line in $(cat -A "$ini")"
 done
-[ "$(cat "$folder/frostel.dat")" = $'ox\r\nyak\r' ] || fail "the word was not saved: $(cat -A "$folder/frostel.dat")"
+[ "$(cat "$folder/groceries.dat")" = $'yak\r' ] ||
+    fail "the word was not saved: $(cat -A "$folder/groceries.dat")"
 if [ "$bin" = --installed ]; then
     for f in /usr/share/games/frostel32/*; do
         [ -d "$f" ] && continue # another language's word files
-        cmp -s "$f" "$folder/${f##*/}" || [ "${f##*/}" = frostel.dat ] || fail "no copy of $f"
+        cmp -s "$f" "$folder/${f##*/}" || [ "${f##*/}" = frostel.dat ] ||
+            [ "${f##*/}" = groceries.dat ] || fail "no copy of $f"
     done
 fi
 echo "1 passed, 0 failed"

@@ -181,6 +181,14 @@
         <source>Save changes?</source>
         <translation>Änderungen speichern?</translation>
     </message>
+    <message>
+        <source>Word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
 </context>
 <context>
     <name>eisfig</name>
@@ -278,6 +286,14 @@
     <message>
         <source>No page holds these words.</source>
         <translation>Keine Seite enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Hilfeseite</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Gefundene Seiten</translation>
     </message>
 </context>
 <context>
@@ -396,6 +412,18 @@
     <message>
         <source>Tips</source>
         <translation>Tipps</translation>
+    </message>
+    <message>
+        <source>Name of player %1</source>
+        <translation>Name von Spieler %1</translation>
+    </message>
+    <message>
+        <source>Vocabulary</source>
+        <translation>Wortschatz</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
 </context>
 <context>
