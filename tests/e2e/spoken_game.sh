@@ -18,7 +18,7 @@ fail() { echo "FAIL: $*"; grep -a "SPEECH OUTPUT" "$log" | tail; sed 's/^/  game
 export HOME=$work XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work/run
 mkdir -p "$XDG_RUNTIME_DIR" "$work/game" && chmod 700 "$XDG_RUNTIME_DIR"
 cp "$bin" "$work/game/frostel32"
-printf 'ox\r\n' >"$work/game/frostel.dat" # one word, so the game is known
+printf 'oxo\r\n' >"$work/game/frostel.dat" # one word, so the game is known
 log=$work/orca.log
 
 # The sentences of the board's notifications, one a line, in the order spoken.
