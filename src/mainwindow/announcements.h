@@ -21,7 +21,6 @@ struct Seen {
     int tips = 0;       // tips taken of this word, as the game counts them
     bool tipOn = false; // a tip can be taken
     bool next = false;  // the next word waits for Enter
-
     std::array<int, core::kPlayers> points{};
 };
 

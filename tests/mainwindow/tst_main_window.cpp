@@ -4,6 +4,7 @@
 #include "mainwindow/help_window.h"
 #include "platform/lean_style.h"
 #include "settings/options_window.h"
+#include "support/focus_marks.h"
 #include "support/main_window_start.h"
 #include "support/windows.h"
 #include "widgets/pictures.h"
@@ -15,8 +16,6 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QTextBrowser>
-#include <cmath>
 
 using support::readAll;
 
@@ -48,84 +47,6 @@ struct KeySeen : QObject {
         return false;
     }
 };
-
-// How far a colour stands out from another, as WCAG measures it: 1 to 21.
-double contrast(QRgb a, QRgb b)
-{
-    auto luminance = [](QRgb c) {
-        auto lin = [](int v) {
-            const double s = v / 255.0;
-            return s <= 0.04045 ? s / 12.92 : std::pow((s + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * lin(qRed(c)) + 0.7152 * lin(qGreen(c)) + 0.0722 * lin(qBlue(c));
-    };
-    const double x = luminance(a), y = luminance(b);
-    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
-}
-
-// The sides of `area` (in the window, logical pixels) along which the focus shows no line: a
-// side passes where each pixel along it has, within 3 pixels of the edge, a pixel that
-// contrasts at least 3:1 with itself in the unfocused window.
-QString unmarkedSides(const QImage& focused, const QImage& unfocused, const QRect& area)
-{
-    const qreal dpr = focused.devicePixelRatio();
-    const QRect r(area.topLeft() * dpr, area.size() * dpr);
-    const int band = int(3 * dpr);
-    auto marked = [&](int x, int y, int dx, int dy) {
-        for (int i = -band; i <= band; ++i) {
-            const QPoint p(x + i * dx, y + i * dy);
-            if (focused.valid(p) && contrast(focused.pixel(p), unfocused.pixel(p)) >= 3)
-                return true;
-        }
-        return false;
-    };
-    QString sides;
-    for (int x = r.left(); x <= r.right() && !sides.contains('T'); ++x)
-        if (!marked(x, r.top(), 0, 1)) sides += 'T';
-    for (int x = r.left(); x <= r.right() && !sides.contains('B'); ++x)
-        if (!marked(x, r.bottom(), 0, 1)) sides += 'B';
-    for (int y = r.top(); y <= r.bottom() && !sides.contains('L'); ++y)
-        if (!marked(r.left(), y, 1, 0)) sides += 'L';
-    for (int y = r.top(); y <= r.bottom() && !sides.contains('R'); ++y)
-        if (!marked(r.right(), y, 1, 0)) sides += 'R';
-    return sides;
-}
-
-// Every control of the window that Tab reaches, focused in turn and measured against itself
-// unfocused; the help page's links too. Returns the controls whose focus does not show.
-QStringList unseenFoci(QWidget* window)
-{
-    QApplication::setActiveWindow(window); // where a keyboard player works
-    if (!QTest::qWaitForWindowActive(window)) return {"not active"};
-    QStringList unseen;
-    auto measure = [&](const QString& name, const QRect& area, const std::function<void()>& off) {
-        const QImage on = window->grab().toImage();
-        off();
-        if (const QString sides = unmarkedSides(on, window->grab().toImage(), area);
-            !sides.isEmpty())
-            unseen << name + ' ' + sides;
-    };
-    for (QWidget* c : window->findChildren<QWidget*>()) {
-        if (!(c->focusPolicy() & Qt::TabFocus) || !c->isVisibleTo(window) || !c->isEnabled())
-            continue;
-        const QString name =
-            c->objectName().isEmpty() ? c->metaObject()->className() : c->objectName();
-        c->setFocus(Qt::TabFocusReason);
-        measure(name, QRect(c->mapTo(window, QPoint()), c->size()), [c] { c->clearFocus(); });
-        auto* page = qobject_cast<QTextBrowser*>(c);
-        if (!page) continue;
-        page->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(page, Qt::Key_Tab); // the first link
-        QTextCursor link = page->textCursor(), end = link;
-        link.setPosition(link.selectionStart());
-        end.setPosition(end.selectionEnd());
-        const QRect area = page->cursorRect(link).united(page->cursorRect(end));
-
-        measure("link", area.translated(page->viewport()->mapTo(window, QPoint())),
-                [page] { page->setTextCursor(QTextCursor(page->document())); });
-    }
-    return unseen;
-}
 
 // The names a screen reader reads for the controls, one after the other.
 QString namesOf(std::initializer_list<QWidget*> controls)
@@ -270,13 +191,13 @@ private slots:
     void aFocusYouCanSee()
     {
         w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
-        QStringList unseen = unseenFoci(w_.get());
+        QStringList unseen = support::unseenFoci(w_.get());
         action("hilfe_1")->trigger();
-        unseen << unseenFoci(w_->findChild<mainwindow::HelpWindow*>());
+        unseen << support::unseenFoci(w_->findChild<mainwindow::HelpWindow*>());
         support::onNextModal<settings::OptionsWindow>([&](settings::OptionsWindow* o) {
-            unseen << unseenFoci(o);
+            unseen << support::unseenFoci(o);
             support::onNextModal<QDialog>([&](QDialog* editor) {
-                unseen << unseenFoci(editor);
+                unseen << support::unseenFoci(editor);
                 editor->reject();
             });
             support::child<QPushButton>(o, "EditButt")->click();
@@ -284,7 +205,7 @@ private slots:
         });
         action("opt")->trigger();
         support::onNextModal<about::InfoWindow>([&](about::InfoWindow* info) {
-            unseen << unseenFoci(info);
+            unseen << support::unseenFoci(info);
             info->reject();
         });
         action("about")->trigger();
