@@ -8,9 +8,8 @@ set -u
 bin=$(readlink -f "$1")
 [ -n "${FROSTEL_XVFB:-}" ] && [ -n "${QT_LINUX_ACCESSIBILITY_ALWAYS_ON:-}" ] ||
     { echo "skipped: run it under under_xvfb.sh, with_openbox.sh and with_atspi.sh"; exit 77; }
-for tool in orca xdotool; do
-    command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
-done
+command -v orca >/dev/null && command -v xdotool >/dev/null ||
+    { echo "skipped: orca or xdotool is missing"; exit 77; }
 work=$(mktemp -d)
 opid="" gpid=""
 trap 'kill -9 $gpid $opid 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
@@ -27,8 +26,7 @@ heard() {
 }
 # Presses the keys, then waits up to 15 s until that many sentences have been said.
 step() {
-    local count=$1
-    shift
+    local count=$1 && shift
     xdotool key --delay 100 "$@"
     for _ in $(seq 150); do
         [ "$(heard | wc -l)" -ge "$count" ] && return
@@ -55,15 +53,11 @@ runpy.run_path("/usr/bin/orca", run_name="__main__")' --replace --debug-file="$l
     win=$(xdotool search --pid $gpid --onlyvisible --name '^Frostel32' 2>/dev/null | tail -1)
     [ -n "$win" ] || fail "no window"
     xdotool windowactivate --sync "$win" 2>/dev/null
-    # A miss, a tip, a solved word, eight misses, a lost word, the next word.
-    step 1 ctrl+s
-    step 3 z
-    step 4 ctrl+t
-    step 8 x
-    step 9 Return
-    step 25 a b c d e f g h
-    step 30 i
-    step 31 Return
+    # A miss, a tip, a solved word, eight misses, a lost word, the next word; each step waits
+    # until the sentences said so far number that many.
+    for keys in "1 ctrl+s" "3 z" "4 ctrl+t" "8 x" "9 Return" "25 a b c d e f g h" "30 i" "31 Return"; do
+        step $keys
+    done
     # The transcript's last line is the end's question, which is read out once.
     want=$(dirname "$0")/spoken/$lang.txt
     diff <(heard) <(head -n -1 "$want") || fail "$lang: heard (<) not as wanted (>)"
