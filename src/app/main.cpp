@@ -1,3 +1,4 @@
+#include "app/session_end.h"
 #include "app/working_folder.h"
 #include "mainwindow/main_window.h"
 #include "platform/lean_style.h"
@@ -21,6 +22,7 @@ int main(int argc, char** argv)
     // Word files and sounds are found by bare name in the working folder.
     app::enterWorkingFolder();
     mainwindow::MainWindow window;
+    app::endWithTheSession([&window] { window.close(); });
     window.Form_Load();
 #ifdef __GLIBC__
     // The splash and the start-up leave freed heap behind; give it back once the window stands.

@@ -44,8 +44,10 @@ if [ "$bin" = --installed ]; then
     printf 'ox\r\n' >"$folder/frostel.dat"
     printf 'fig\r\n' >"$folder/groceries.dat"
     start=$(sed -n 's/^Exec=//p' /usr/share/applications/net.frostel32.frostel32.desktop)
-    (cd "$HOME" && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start) \
-        >"$work/game.log" 2>&1 & gpid=$!
+    launch() {
+        (cd "$HOME" && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start) \
+            >"$work/game.log" 2>&1 & gpid=$!
+    }
 else
     folder=$work/game
     mkdir -p "$folder"
@@ -53,8 +55,9 @@ else
     cp "$(dirname "$bin")/frostel32-sound.so" "$folder/" 2>/dev/null
     printf 'ox\r\n' >"$folder/frostel.dat"
     printf 'fig\r\n' >"$folder/groceries.dat"
-    (cd "$folder" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!
+    launch() { (cd "$folder" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!; }
 fi
+launch
 win=$(window "Frostel32 v2.31") || exit 1 # the splash comes first
 xdotool windowactivate --sync "$win" 2>/dev/null
 sleep 0.3
@@ -114,4 +117,19 @@ if [ "$bin" = --installed ]; then
             [ "${f##*/}" = groceries.dat ] || fail "no copy of $f"
     done
 fi
+# Ended by the desktop, at logout or by its terminal: the window's place is written as at any
+# close, with no question and exit status 0; a second signal meanwhile does no harm.
+for sig in TERM HUP INT; do
+    rm "$ini"
+    launch
+    win=$(window "Frostel32 v2.31") || exit 1
+    sleep 3 # past the splash
+    xdotool windowmove --sync "$win" 150 120
+    kill -$sig $gpid && kill -$sig $gpid
+    wait $gpid; status=$?
+    [ $status -eq 0 ] || fail "SIG$sig: exit status $status"
+    # The frame's corner: openbox's border is 1 pixel, its title bar 20.
+    grep -q $'^Left= 2235\r$' "$ini" && grep -q $'^Top= 1500\r$' "$ini" ||
+        fail "SIG$sig: not the moved place in $(cat -A "$ini" 2>&1)"
+done
 echo "1 passed, 0 failed"
