@@ -24,10 +24,10 @@ void drawFocusRing(QPainter& painter, const QRect& r)
 
 FocusRing::FocusRing() : QWidget(nullptr)
 {
+    // Inside the ring the control shows through, and takes the clicks.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
-    // Inside the ring the control shows through.
 }
 
 void FocusRing::follow()
