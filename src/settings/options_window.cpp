@@ -269,7 +269,7 @@ void OptionsWindow::Timer1_Timer()
 void OptionsWindow::Zahl_Change(int Index)
 {
     const int16_t n = int16_t(captionNumber(zahl_[Index]->text()));
-    spinValueChanged(plumin_[Index]);
+    spinValueChanged(plumin_[Index], n);
     if (Index == 0) {
         game_.g.AnzSpieler = n;
         // A disabled box keeps its name; OK stores it all the same.

@@ -27,7 +27,7 @@ public:
         return t == QAccessible::Value ? number()->text().trimmed() : QAccessibleWidget::text(t);
     }
     // A hand-edited number outside the range is told as it reads.
-    QVariant currentValue() const override { return captionNumber(number()->text()); }
+    QVariant currentValue() const override { return current(); }
     void setCurrentValue(const QVariant& value) override
     {
         const int want = value.toInt();
@@ -66,10 +66,9 @@ void makeSpinButton(QWidget* spin, QLabel* number, Spin range)
     spin->setProperty(kRange, int(range));
 }
 
-void spinValueChanged(QWidget* spin)
+void spinValueChanged(QWidget* spin, int value)
 {
-    QAccessibleValueChangeEvent event(
-        spin, captionNumber(spin->property(kNumber).value<QLabel*>()->text()));
+    QAccessibleValueChangeEvent event(spin, value);
     QAccessible::updateAccessibility(&event);
 }
 

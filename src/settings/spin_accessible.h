@@ -10,7 +10,7 @@ namespace settings {
 
 // Makes `spin` the spin button of the number label `number`.
 void makeSpinButton(QWidget* spin, QLabel* number, Spin range);
-// Tells a screen reader that the number has changed.
-void spinValueChanged(QWidget* spin);
+// Tells a screen reader that the number now reads `value`.
+void spinValueChanged(QWidget* spin, int value);
 
 } // namespace settings
