@@ -9,7 +9,6 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
-#include <QTimer>
 
 namespace mainwindow {
 namespace {
@@ -129,15 +128,7 @@ void MainWindow::announce()
     const Seen now = Announcer::look(game_);
     const QStringList news = Announcer::changes(heard_, now, game_);
     heard_ = now;
-    if (news.isEmpty()) return;
-    untold_ << news;
-    if (!gather_->isActive()) gather_->start();
-}
-
-void MainWindow::tell()
-{
-    notice_->say(untold_.join(' '));
-    untold_.clear();
+    if (!news.isEmpty()) notice_->say(news);
 }
 
 void MainWindow::syncTiles()

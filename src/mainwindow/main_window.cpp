@@ -42,10 +42,6 @@ MainWindow::MainWindow(Setup setup)
     Feld_.push_back(ui_->Feld_0);
     loadPictures();
     notice_ = new widgets::SpokenNotice(ui_->client);
-    gather_ = new QTimer(this);
-    gather_->setSingleShot(true);
-    gather_->setInterval(200); // a miss and the turn it passes, but not the next move
-    connect(gather_, &QTimer::timeout, this, &MainWindow::tell);
 
     tk_.setMainWindow(this);
     tk_.beforeEvents = [this] { sync(); };

@@ -16,7 +16,6 @@
 #include <vector>
 
 class QLabel;
-class QTimer;
 namespace Ui {
 class eisfig;
 }
@@ -96,7 +95,6 @@ private:
     void syncFields();
     void syncCommands();
     void announce();
-    void tell();
     void setOuterSize(int widthTwips, int heightTwips);
     void fitFrame();
     void storePlace();
@@ -126,11 +124,7 @@ private:
     std::array<bool, core::kStages> stageLoaded_{};
     std::array<int, core::kSymbols> shownSymbol_{};
     int shownHeight_ = -1;
-    // What a screen reader was last told of. A move shows in steps; what it shows within
-    // a moment is said as one.
-    Seen heard_;
-    QStringList untold_;
-    QTimer* gather_ = nullptr;
+    Seen heard_; // what a screen reader was last told of
     widgets::SpokenNotice* notice_ = nullptr;
 
     HelpWindow* help_ = nullptr;

@@ -23,12 +23,22 @@ SpokenNotice::SpokenNotice(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     hide();
+    gather_.setSingleShot(true);
+    gather_.setInterval(200); // a miss and the turn it passes, but not the next move
+    connect(&gather_, &QTimer::timeout, this, &SpokenNotice::tell);
 }
 
-void SpokenNotice::say(const QString& sentence)
+void SpokenNotice::say(const QStringList& sentences)
+{
+    untold_ << sentences;
+    if (!gather_.isActive()) gather_.start();
+}
+
+void SpokenNotice::tell()
 {
     hide();
-    setAccessibleName(sentence);
+    setAccessibleName(untold_.join(' '));
+    untold_.clear();
     show();
 }
 
