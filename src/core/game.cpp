@@ -37,13 +37,23 @@ Board::Board()
     Punkt[0].loaded = true;
 }
 
+namespace {
+
+bool isEnter(const Command& c) { return c.kind == Command::Kind::Key && c.index == 13; }
+
+} // namespace
+
 Game::Game(Toolkit& toolkit) : tk_(toolkit) {}
 
 // --- commands --------------------------------------------------------------------------
 
 void Game::submit(Command command)
 {
-    if (ended_ || !takesInput(command)) return;
+    // Enter while a routine runs waits, as a key in the system's queue, for the next point
+    // that serves events: at the hold of a finished word it ends the hold, at any other it
+    // does nothing (serve() drops it).
+    const bool enterWaits = depth_ > 0 && isEnter(command);
+    if (ended_ || (!enterWaits && !takesInput(command))) return;
     queue_.push_back(std::move(command));
     if (depth_ == 0) drain();
 }
@@ -63,7 +73,7 @@ bool Game::takesInput(const Command& c) const
         // Only a letter with a tile and Enter do anything.
         const QChar key = QChar(char16_t(c.index)).toUpper();
         if (key >= u'A' && key <= u'Z') return letterTakesInput(key.unicode() - u'A');
-        return c.index == 13 && board.weiter_Enabled;
+        return isEnter(c) && board.weiter_Enabled;
     }
     case K::Tip: return board.tip_Enabled;
     case K::Weiter: return board.weiter_Enabled;
@@ -112,7 +122,9 @@ void Game::execute(const Command& c)
     case K::Tile:
         if (letterTakesInput(c.index)) alpha_Click(c.index);
         break;
-    case K::Key: Form_KeyPress(c.index); break;
+    case K::Key:
+        if (!isEnter(c) || board.weiter_Enabled) Form_KeyPress(c.index);
+        break;
     case K::Start: start_Click(); break;
     case K::Ende: ende_Click(); break;
     case K::Tip:
@@ -144,6 +156,7 @@ void Game::throwIfEnded() const
 void Game::serve()
 {
     tk_.serveEvents();
+    std::erase_if(queue_, isEnter);
     throwIfEnded();
 }
 

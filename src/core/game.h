@@ -42,7 +42,8 @@ public:
     // this moment raises nothing, and letters count only while a word is open. While a
     // guess, a draw or a wait runs, the rest is queued and runs in order once it has
     // returned; only a held WeiterWarten runs commands as they come, and only until one of
-    // them has ended it. So no guess or draw ever starts inside another.
+    // them has ended it. So no guess or draw ever starts inside another. Enter is judged
+    // where the game next serves events, so one pressed just before a hold ends it.
     void submit(Command command);
     void tile(int index) { submit({Command::Kind::Tile, index, {}}); }
     void key(int keyAscii) { submit({Command::Kind::Key, keyAscii, {}}); }
