@@ -13,6 +13,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -131,6 +132,8 @@ private:
     settings::OptionsHost* options_ = nullptr;
     QSize outerWanted_; // the outer size asked for, in pixels, until the frame is known
     QSize lastFrame_;
+    // Started maximised, the corner the window takes when first restored.
+    std::optional<QPoint> cornerWhenRestored_;
     bool unloaded_ = false;
     bool loaded_ = false;
 };

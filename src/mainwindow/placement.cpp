@@ -33,11 +33,17 @@ int16_t MainWindow::restorePlace()
     // The state itself is set by the show: set before, it would make the window as well.
     settings::WindowPlace stored;
     stored.state = settings::readWindowState(profile_);
-    // Maximised, the stored place waits for a close in another state.
-    if (stored.state == 2) return stored.state;
     const QSize design(int(tw(kDesignOuter.width())), int(tw(kDesignOuter.height())));
     const QPoint centre = centreOf(available(QGuiApplication::primaryScreen()), design);
-    settings::readWindowPlace(profile_, stored, centre.x(), centre.y());
+    // Maximised, the stored place waits for a close in another state; restored, the window
+    // stands as at a first start.
+    if (stored.state == 2) {
+        // A window manager restores it to wherever it was made, often the screen's corner.
+        cornerWhenRestored_ = QPoint(twipsToPixels(centre.x()), twipsToPixels(centre.y()));
+        stored = {stored.state, centre.x(), centre.y(), design.width(), design.height()};
+    } else {
+        settings::readWindowPlace(profile_, stored, centre.x(), centre.y());
+    }
     // It opens on the screen that holds its stored corner, else on the primary one.
     const QScreen* screen = QGuiApplication::screenAt(
         QPoint(twipsToPixels(double(stored.left)), twipsToPixels(double(stored.top))));
@@ -78,6 +84,7 @@ void MainWindow::storePlace()
         place.state = 2;
     } else {
         QRect r = frameGeometry();
+        if (cornerWhenRestored_) r.moveTopLeft(*cornerWhenRestored_); // never restored yet
         // Minimised from the start, it is not fitted to its frame yet: it has the size asked for.
         if (outerWanted_.isValid() && lastFrame_ != r.size() - geometry().size())
             r.setSize(outerWanted_.expandedTo(kDesignOuter));
@@ -102,6 +109,9 @@ void MainWindow::changeEvent(QEvent* event)
     // No event tells of the frame a window manager puts around the window; by the time the
     // window is activated it is there.
     if (event->type() == QEvent::ActivationChange) fitFrame();
+    if (event->type() == QEvent::WindowStateChange && windowState() == Qt::WindowNoState &&
+        cornerWhenRestored_)
+        move(*std::exchange(cornerWhenRestored_, std::nullopt));
     if (event->type() == QEvent::WindowStateChange && !(windowState() & Qt::WindowMinimized))
         Anordnen();
 }

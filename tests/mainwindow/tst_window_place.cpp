@@ -61,36 +61,64 @@ private slots:
 
     void storedStateComesBack_data()
     {
-        QTest::addColumn<int>("status");    // as stored: 1 minimised, 2 maximised
-        QTest::addColumn<bool>("minimise"); // by the player, before the end
-        QTest::newRow("maximised: the place keys stay") << 2 << false;
-        QTest::newRow("minimised, in its place") << 1 << false;
-        QTest::newRow("minimised from maximised: state 1 and the place") << 2 << true;
+        QTest::addColumn<int>("status");    // as stored: 0 normal, 1 minimised, 2 maximised
+        QTest::addColumn<QString>("moves"); // the player's, before the end
+        QTest::addColumn<QRect>("normal");  // the normal window, in twips; (-1, -1): centred
+        QTest::addColumn<int>("end");       // the state written; -1: the file stays as it was
+        const QRect stored(900, 600, 10500, 7500), centred(-1, -1, 9600, 6975);
+        QTest::newRow("maximised: the place keys stay") << 2 << "" << stored << -1;
+        QTest::newRow("minimised, in its place") << 1 << "" << stored << -1;
+        QTest::newRow("maximised, then normal: the least size, centred")
+            << 2 << "normal" << centred << 0;
+        QTest::newRow("maximised, then minimised: state 1 and the normal place")
+            << 2 << "min" << centred << 1;
+        QTest::newRow("normal, maximised, minimised: state 1 and the normal place")
+            << 0 << "max min" << stored << 1;
     }
 
     void storedStateComesBack()
     {
         QFETCH(int, status);
-        QFETCH(bool, minimise);
+        QFETCH(QString, moves);
+        QFETCH(QRect, normal);
+        QFETCH(int, end);
         const QByteArray ini =
             "[Window]\r\nLeft= 900\r\nTop= 600\r\nWidth= 10500\r\nHeight= 7500\r\n"
             "Status= " +
             QByteArray::number(status) + "\r\n";
         auto w = startWindow(ini);
-        QCOMPARE(w->windowState(), status == 1 ? Qt::WindowMinimized : Qt::WindowMaximized);
-        if (minimise) w->showMinimized();
-        QTRY_VERIFY(w->isMinimized() == (minimise || status == 1));
-        const QRect r = w->frameGeometry();
+        const Qt::WindowState states[] = {Qt::WindowNoState, Qt::WindowMinimized,
+                                          Qt::WindowMaximized};
+        QTRY_COMPARE(w->windowState(), states[status]);
+        for (const QString& move : moves.split(' ', Qt::SkipEmptyParts)) {
+            if (move == "max") w->showMaximized();
+            else if (move == "min") w->showMinimized();
+            else w->showNormal();
+            const Qt::WindowState state = move == "max"   ? Qt::WindowMaximized
+                                          : move == "min" ? Qt::WindowMinimized
+                                                          : Qt::WindowNoState;
+            QTRY_VERIFY(w->windowState() == state || w->windowState() == (state | states[2]));
+            if (state == Qt::WindowNoState)
+                QTRY_COMPARE(w->frameGeometry().size(), normal.size() / 15);
+        }
+        const QRect screen = w->screen()->availableGeometry();
         w->close();
-        auto n = [](int px) { return settings::numberForm(px * 15.0); };
-        const bool kept = support::onWayland(); // there the place read stays
-        const QString end =
-            "[Window]\r\nLeft=%1\r\nTop=%2\r\nWidth=%3\r\nHeight=%4\r\nStatus= 1\r\n";
-        QCOMPARE(support::readAll(ini_),
-                 !minimise ? ini
-                           : end.arg(kept ? " 900" : n(r.x()), kept ? " 600" : n(r.y()),
-                                     n(r.width()), n(r.height()))
-                                 .toLatin1());
+        QCOMPARE(support::readAll(ini_) == ini, end < 0);
+        if (end < 0) return;
+        if (normal.x() < 0)
+            normal.moveTopLeft(QPoint(screen.x() * 15 + (screen.width() * 15 - 9600) / 2,
+                                      screen.y() * 15 + (screen.height() * 15 - 6975) / 2));
+        if (support::onWayland()) normal.moveTopLeft({900, 600}); // there the place read stays
+        // Written in whole pixels: a centre within one of the rule's.
+        const QStringList keys{"Left", "Top", "Width", "Height", "Status"};
+        const QList<int> want{normal.x(), normal.y(), normal.width(), normal.height(), end};
+        const QList<QByteArray> lines = support::readAll(ini_).split('\n');
+        QCOMPARE(lines.size(), 7);
+        for (int i = 0; i < 5; ++i) {
+            QVERIFY2(lines[i + 1].startsWith(keys[i].toLatin1() + '='), lines[i + 1]);
+            QVERIFY2(qAbs(lines[i + 1].mid(keys[i].size() + 1).trimmed().toInt() - want[i]) < 15,
+                     lines[i + 1]);
+        }
     }
 
     void fitsTheScreen_data()
