@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QGridLayout>
 #include <QLibrary>
 #include <QMessageBox>
 #include <QPushButton>
@@ -33,6 +34,20 @@ uint64_t mix(uint64_t z)
 class Box : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
+
+    // Wide enough that the frame shows the whole title beside its icon and three buttons,
+    // each about as wide as the title bar is high (the main window's tells how high).
+    void widenForTitle(const QWidget* main)
+    {
+        QFont bold = font();
+        bold.setBold(true);
+        const int bar = main ? main->geometry().top() - main->frameGeometry().top() : 0;
+        const int width = QFontMetrics(bold).horizontalAdvance(windowTitle()) +
+                          4 * std::max(bar, 24) + 16;
+        auto* grid = qobject_cast<QGridLayout*>(layout());
+        if (grid)
+            grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
 
 protected:
     void showEvent(QShowEvent* event) override
@@ -118,6 +133,7 @@ int QtToolkit::msgBox(const QString& text, int type, const QString& title)
         box.setIcon(QMessageBox::Warning);
         box.setStandardButtons(QMessageBox::Ok);
     }
+    box.widenForTitle(main_);
     const int r = box.exec();
     if (type != core::kYesNoQuestion) return core::kAnswerOk;
     return r == QMessageBox::Yes ? core::kAnswerYes : core::kAnswerNo;

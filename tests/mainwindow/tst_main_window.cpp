@@ -144,6 +144,18 @@ private slots:
         });
         QTest::keyClick(w_.get(), Qt::Key_E, Qt::ControlModifier);
         QVERIFY(exits_ == 0 && box == "Program end: Really end the game?");
+        // A narrow box keeps its title whole beside the frame's icon and three buttons.
+        int room = 0;
+        support::onNextModal<QMessageBox>([&](QMessageBox* b) {
+            QFont bold = b->font();
+            bold.setBold(true);
+            const int bar = std::max(b->geometry().top() - b->frameGeometry().top(), 20);
+            room = support::framed(b).width() - 4 * bar -
+                   QFontMetrics(bold).horizontalAdvance(b->windowTitle());
+            QTest::keyClick(b, Qt::Key_Return);
+        });
+        w_->toolkit().msgBox("Kim\rwon!", core::kOkExclamation, "Yippieh!");
+        QVERIFY2(room >= 0, qPrintable(QString::number(room)));
         // A word by the traffic light; a letter by its key, another by its tile.
         QTest::mouseClick(w_->picBut(0), Qt::LeftButton);
         QVERIFY(g.g.Wort == "APPLE" && action("tip")->isEnabled());
