@@ -42,8 +42,8 @@ public:
         QFont bold = font();
         bold.setBold(true);
         const int bar = main ? main->geometry().top() - main->frameGeometry().top() : 0;
-        const int width = QFontMetrics(bold).horizontalAdvance(windowTitle()) +
-                          4 * std::max(bar, 24) + 16;
+        const int width =
+            QFontMetrics(bold).horizontalAdvance(windowTitle()) + 4 * std::max(bar, 24) + 16;
         auto* grid = qobject_cast<QGridLayout*>(layout());
         if (grid)
             grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());

@@ -196,6 +196,21 @@ private slots:
             if (german.at(at) == text && !kSame.contains(text) &&
                 !QRegularExpression("^[ 0-9]*$").match(text).hasMatch())
                 faults << at + ": " + text;
+        // The help names each menu entry as the menu shows it, in either language.
+        for (const auto& [folder, texts] :
+             {std::pair{":/help/", english}, {":/help/de/", german}}) {
+            QStringList entries;
+            for (const auto& [at, text] : texts)
+                if (at.startsWith("action ")) entries << QString(text).remove('&').remove("...");
+            const QRegularExpression named(
+                "&rarr; ([^<]+?)(\\.\\.\\.)?</b>|<tr><td>([^<]+)</td><td><kbd>\\w+\\+");
+            for (const QString& page : QDir(folder).entryList({"*.html"})) {
+                const QString html = QString::fromUtf8(readAll(folder + page));
+                for (const auto& m : named.globalMatch(html))
+                    if (const QString name = m.captured(1) + m.captured(3); !entries.contains(name))
+                        faults << folder + page + ": " + name;
+            }
+        }
         QCOMPARE(faults.join('|'), QString());
         // Boxes and the game's own words.
         QCOMPARE(core::Game::tr("Really end the game?"), QString("Das Spiel wirklich beenden?"));
