@@ -4,6 +4,7 @@
 #include "vocabulary/word_file.h"
 
 #include <QtGlobal>
+#include <utility>
 
 namespace core {
 
@@ -102,6 +103,10 @@ void Game::NeuesWort()
         setTilesEnabled(false);
         board.tip_Enabled = false;
         board.PicBut_Visible[2] = false;
+        if (!std::exchange(toldNoWords_, true))
+            box(tr("There are no words to guess. Choose or create a vocabulary under Game, "
+                   "Options."),
+                kOkExclamation, tr("Start"));
         return;
     }
     const qsizetype n = List1.size();
@@ -134,6 +139,7 @@ void Game::WoerterLaden()
     if (g.WortDatei.isEmpty()) g.WortDatei = QStringLiteral("frostel.dat");
     vocabulary::ReadResult r = vocabulary::readWordFile(g.WortDatei);
     List1 = std::move(r.words);
+    if (!List1.isEmpty()) toldNoWords_ = false; // should they go again, say so again
     if (r.failure) {
         const QString text = r.failure->number == vocabulary::kFileNotFound
                                  ? tr("File %1 not found!").arg(g.WortDatei)

@@ -122,8 +122,9 @@ private:
     std::deque<Command> queue_;
     int depth_ = 0;
     bool ended_ = false;
-    bool holding_ = false;  // WeiterWarten holds the finished word
-    bool wordOpen_ = false; // the fields of a word stand and no guess has solved it
+    bool holding_ = false;     // WeiterWarten holds the finished word
+    bool wordOpen_ = false;    // the fields of a word stand and no guess has solved it
+    bool toldNoWords_ = false; // the player knows a start finds no words
 };
 
 } // namespace core
