@@ -19,11 +19,13 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(QStringLiteral("2.31"));
     QApplication::setDesktopFileName(QStringLiteral("net.frostel32.frostel32"));
     platform::installTranslators();
-    // Word files and sounds are found by bare name in the working folder.
-    app::enterWorkingFolder();
+    // Word files are found by bare name in the working folder, sounds there or where installed.
+    app::catchTheSessionsEnd();
+    const app::Folders folders = app::enterWorkingFolder();
     mainwindow::MainWindow window;
-    app::endWithTheSession([&window] { window.close(); });
+    window.toolkit().soundFolder = folders.sounds;
     window.Form_Load();
+    app::endWithTheSession([&window] { window.close(); });
 #ifdef __GLIBC__
     // The splash and the start-up leave freed heap behind; give it back once the window stands.
     QTimer::singleShot(0, [] { malloc_trim(0); });

@@ -22,6 +22,16 @@ void onSignal(int)
 
 } // namespace
 
+void catchTheSessionsEnd()
+{
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, pipeEnds) != 0) return;
+    struct sigaction action = {};
+    action.sa_handler = onSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    for (int sig : {SIGTERM, SIGHUP, SIGINT}) ::sigaction(sig, &action, nullptr);
+}
+
 void endWithTheSession(std::function<void()> end)
 {
     auto once = [end = std::move(end), done = std::make_shared<bool>(false)] {
@@ -29,7 +39,8 @@ void endWithTheSession(std::function<void()> end)
         *done = true;
         end();
     };
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, pipeEnds) == 0) {
+    if (pipeEnds[1] >= 0) {
+        // What came meanwhile waits in the socket and is read at the first turn of the loop.
         auto* notifier = new QSocketNotifier(pipeEnds[1], QSocketNotifier::Read, qApp);
         QObject::connect(notifier, &QSocketNotifier::activated, qApp, [once] {
             char bytes[16];
@@ -37,11 +48,6 @@ void endWithTheSession(std::function<void()> end)
             }
             once();
         });
-        struct sigaction action = {};
-        action.sa_handler = onSignal;
-        sigemptyset(&action.sa_mask);
-        action.sa_flags = SA_RESTART;
-        for (int sig : {SIGTERM, SIGHUP, SIGINT}) ::sigaction(sig, &action, nullptr);
     }
     // The session manager's last word before it ends the session: nothing to ask, all to keep.
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,

@@ -8,5 +8,8 @@ namespace app {
 // program to save before the session ends. `end` runs once, from the event loop; a second
 // signal while it runs does nothing.
 void endWithTheSession(std::function<void()> end);
+// Holds those signals from here on until endWithTheSession() takes them: one that comes
+// while the game starts ends it once the start is done.
+void catchTheSessionsEnd();
 
 } // namespace app

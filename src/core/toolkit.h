@@ -27,8 +27,8 @@ public:
     virtual double random() = 0;
     // A modal box; returns the answer (kAnswerYes for Yes).
     virtual int msgBox(const QString& text, int type, const QString& title) = 0;
-    // Plays frostl<n>.wav from the working folder, without waiting; a new sound cuts off
-    // the one before, a missing file stays silent.
+    // Plays frostl<n>.wav from the working folder (or the shipped sounds), without waiting;
+    // a new sound cuts off the one before, a missing file stays silent.
     virtual void playSound(int n) = 0;
     // Width in twips of a text set in 12-point type of the main window's font.
     virtual double textWidth(const QString& text) = 0;

@@ -163,8 +163,10 @@ void QtToolkit::playSound(int n)
 {
     if (n < 0 || n > 13) return;
     const QString name = QStringLiteral("frostl%1.wav").arg(n);
-    if (!QFileInfo::exists(name)) return; // a missing file stays silent
-    if (SoundPlayer* player = soundPlayer()) player->play(QFileInfo(name).absoluteFilePath());
+    QFileInfo file(name);
+    if (!file.exists()) file.setFile(soundFolder + '/' + name);
+    if (!file.exists()) return; // a missing file stays silent
+    if (SoundPlayer* player = soundPlayer()) player->play(file.absoluteFilePath());
 }
 
 double QtToolkit::textWidth(const QString& text)

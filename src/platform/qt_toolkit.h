@@ -30,6 +30,8 @@ public:
     std::function<void()> onEnd;
     // Waits last this share of their time; tests shorten them.
     double waitScale = 1.0;
+    // Where frostl<n>.wav is looked up when the working folder has none.
+    QString soundFolder;
 
     // Ends whatever wait runs now, and every later one at once.
     void stopWaiting();

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QCryptographicHash>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -142,6 +143,13 @@ private slots:
             if (!QFile::exists(list)) source.clear(), vocabulary::WortlisteFuellen(source);
             if (!file.endsWith("frostel.dat")) source.sort(Qt::CaseInsensitive);
             QCOMPARE(r.words, source);
+            // Recorded as shipped, or players' copies of it would never be brought up to date.
+            const QByteArray sum =
+                QCryptographicHash::hash(readAll(GAME_DIR "/" + file), QCryptographicHash::Sha256);
+            const QString record = QFileInfo(GAME_DIR "/" + file).path() + "/shipped.sha256";
+            QVERIFY2(readAll(record).contains(sum.toHex() + "  " +
+                                              QFileInfo(file).fileName().toLatin1()),
+                     qPrintable(file + ": add its line to " + record));
         }
     }
 
