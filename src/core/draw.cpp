@@ -139,7 +139,6 @@ void Game::WoerterLaden()
     if (g.WortDatei.isEmpty()) g.WortDatei = QStringLiteral("frostel.dat");
     vocabulary::ReadResult r = vocabulary::readWordFile(g.WortDatei);
     List1 = std::move(r.words);
-    if (!List1.isEmpty()) toldNoWords_ = false; // should they go again, say so again
     if (r.failure) {
         const QString text = r.failure->number == vocabulary::kFileNotFound
                                  ? tr("File %1 not found!").arg(g.WortDatei)

@@ -122,9 +122,7 @@ void Game::execute(const Command& c)
     case K::Tile:
         if (letterTakesInput(c.index)) alpha_Click(c.index);
         break;
-    case K::Key:
-        if (!isEnter(c) || board.weiter_Enabled) Form_KeyPress(c.index);
-        break;
+    case K::Key: Form_KeyPress(c.index); break;
     case K::Start: start_Click(); break;
     case K::Ende: ende_Click(); break;
     case K::Tip:

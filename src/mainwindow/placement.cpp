@@ -36,14 +36,10 @@ int16_t MainWindow::restorePlace()
     const QSize design(int(tw(kDesignOuter.width())), int(tw(kDesignOuter.height())));
     const QPoint centre = centreOf(available(QGuiApplication::primaryScreen()), design);
     // Maximised, the stored place waits for a close in another state; restored, the window
-    // stands as at a first start.
-    if (stored.state == 2) {
-        // A window manager restores it to wherever it was made, often the screen's corner.
+    // stands as at a first start, and not wherever the window manager made it.
+    if (stored.state == 2)
         cornerWhenRestored_ = QPoint(twipsToPixels(centre.x()), twipsToPixels(centre.y()));
-        stored = {stored.state, centre.x(), centre.y(), design.width(), design.height()};
-    } else {
-        settings::readWindowPlace(profile_, stored, centre.x(), centre.y());
-    }
+    else settings::readWindowPlace(profile_, stored, centre.x(), centre.y());
     // It opens on the screen that holds its stored corner, else on the primary one.
     const QScreen* screen = QGuiApplication::screenAt(
         QPoint(twipsToPixels(double(stored.left)), twipsToPixels(double(stored.top))));
