@@ -6,7 +6,8 @@ pkgs=(cmake ninja-build g++ pkg-config clang-14 libclang-rt-14-dev llvm-14
       qt6-l10n-tools qt6-translations-l10n
       libgl-dev libxcb1-dev libbenchmark-dev fonts-dejavu-core
       xvfb xauth x11-utils xdotool openbox imagemagick sox appstream desktop-file-utils
-      dbus at-spi2-core orca python3-pyatspi weston qt6-wayland dpkg-dev file lintian)
+      dbus at-spi2-core orca python3-pyatspi weston qt6-wayland dpkg-dev file lintian
+      gettext po4a man-db)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
