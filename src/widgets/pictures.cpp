@@ -20,10 +20,10 @@ QPixmap load(const QString& path)
     return QPixmap::fromImage(reader.read());
 }
 
-
 // The icon at each size rendered for it, each file read only when its size is first asked
-// for: X11 takes every size with the first window, Wayland none. QIcon::addFile would read
-// them all at once. One look for every mode: a window icon is never shown disabled.
+// for: X11 takes every size with the first window, Wayland only the one its title bar draws.
+// QIcon::addFile would read them all at once. One look for every mode: a window icon is never
+// shown disabled.
 class IconEngine final : public QIconEngine {
 public:
     IconEngine()
