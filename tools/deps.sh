@@ -7,7 +7,7 @@ pkgs=(cmake ninja-build g++ pkg-config clang-14 libclang-rt-14-dev llvm-14
       libgl-dev libxcb1-dev libbenchmark-dev fonts-dejavu-core
       xvfb xauth x11-utils xdotool openbox imagemagick sox appstream desktop-file-utils
       dbus at-spi2-core orca python3-pyatspi weston qt6-wayland dpkg-dev file lintian
-      x11-session-utils x11-xserver-utils)
+      x11-session-utils x11-xserver-utils gettext po4a man-db)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")

@@ -1,7 +1,12 @@
 #include "widgets/pictures.h"
 
+#include <QDir>
 #include <QIcon>
+#include <QIconEngine>
 #include <QImageReader>
+#include <QMap>
+#include <QPainter>
+#include <algorithm>
 
 namespace widgets {
 
@@ -14,6 +19,59 @@ QPixmap load(const QString& path)
     reader.setAutoDetectImageFormat(false);
     return QPixmap::fromImage(reader.read());
 }
+
+// The icon at each size rendered for it, each file read only when its size is first asked
+// for: X11 takes every size with the first window, Wayland only the one its title bar draws.
+// QIcon::addFile would read them all at once. One look for every mode: a window icon is never
+// shown disabled.
+class IconEngine final : public QIconEngine {
+public:
+    IconEngine()
+    {
+        for (const QString& f : QDir(QStringLiteral(":/icons")).entryList(QDir::Files)) {
+            const int side = f.section(u'-', 1).section(u'.', 0, 0).toInt();
+            if (side > 0) sides_.insert(side, {});
+        }
+    }
+    QIconEngine* clone() const override { return new IconEngine(*this); }
+    QString key() const override { return QStringLiteral("frostel32"); }
+    bool isNull() override { return sides_.isEmpty(); }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        QList<QSize> sizes;
+        for (int side : sides_.keys()) sizes << QSize(side, side);
+        return sizes;
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override
+    {
+        const int side = std::min({size.width(), size.height(), best(size)});
+        return {side, side};
+    }
+    // The smallest that is big enough, else the biggest; scaled down where it is too big.
+    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override
+    {
+        if (isNull() || size.isEmpty()) return {};
+        const int side = best(size);
+        QPixmap& p = sides_[side];
+        if (p.isNull()) p = load(QStringLiteral(":/icons/icon-%1.png").arg(side));
+        if (side <= std::min(size.width(), size.height())) return p;
+        return p.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const qreal dpr = painter->device() ? painter->device()->devicePixelRatio() : 1.0;
+        painter->drawPixmap(rect, pixmap(rect.size() * dpr, mode, state));
+    }
+
+private:
+    int best(const QSize& size) const
+    {
+        const int want = std::max(size.width(), size.height());
+        const auto it = sides_.lowerBound(want);
+        return it != sides_.end() ? it.key() : sides_.lastKey();
+    }
+    QMap<int, QPixmap> sides_;
+};
 
 } // namespace
 
@@ -31,12 +89,7 @@ QPixmap picture(const QString& name, qreal devicePixelRatio)
 
 const QIcon& windowIcon()
 {
-    static const QIcon icon = [] {
-        QIcon i;
-        i.addPixmap(picture(QStringLiteral("icon"), 1.0));
-        i.addPixmap(load(QStringLiteral(":/pictures/icon@2x.png")));
-        return i;
-    }();
+    static const QIcon icon(new IconEngine);
     return icon;
 }
 

@@ -111,8 +111,8 @@ done
 [ "$(cat "$folder/groceries.dat")" = $'yak\r' ] ||
     fail "the word was not saved: $(cat -A "$folder/groceries.dat")"
 if [ "$bin" = --installed ]; then
-    for f in /usr/share/games/frostel32/*; do
-        [ -d "$f" ] && continue # another language's word files
+    # The word files and the guide come to the player; the sounds stay where installed.
+    for f in /usr/share/games/frostel32/*.dat /usr/share/games/frostel32/README.TXT; do
         cmp -s "$f" "$folder/${f##*/}" || [ "${f##*/}" = frostel.dat ] ||
             [ "${f##*/}" = groceries.dat ] || fail "no copy of $f"
     done

@@ -2,6 +2,7 @@
 // contact sheet of everything rendered, for review.
 //
 //   render_pictures render SRC.svg WIDTH HEIGHT OUT.png       (writes OUT.png and OUT@2x.png)
+//   render_pictures sizes SRC.svg OUTDIR SIZE...              (writes OUTDIR/SRC-SIZE.png, square)
 //   render_pictures sheet OUT.png PNG...                      (contact sheet of the given 1x files)
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -41,6 +42,21 @@ int render(const QStringList& a)
     out2.insert(out2.lastIndexOf('.'), "@2x");
     if (!renderOne(svg, w, h, 1, a[3]) || !renderOne(svg, w, h, 2, out2))
         return fail("cannot write " + a[3]);
+    return 0;
+}
+
+// An icon at each of the sizes a desktop asks for, each drawn afresh from the SVG.
+int sizes(const QStringList& a)
+{
+    if (a.size() < 3) return fail("sizes needs SRC OUTDIR and at least one SIZE");
+    QSvgRenderer svg(a[0]);
+    if (!svg.isValid()) return fail(a[0] + " is not a valid SVG");
+    for (qsizetype i = 2; i < a.size(); ++i) {
+        const int size = a[i].toInt();
+        if (size <= 0) return fail("bad size " + a[i]);
+        const QString out = a[1] + '/' + QFileInfo(a[0]).completeBaseName() + '-' + a[i] + ".png";
+        if (!renderOne(svg, size, size, 1, out)) return fail("cannot write " + out);
+    }
     return 0;
 }
 
@@ -96,9 +112,10 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QStringList args = app.arguments().mid(1);
-    if (args.isEmpty()) return fail("usage: render_pictures render|sheet ...");
+    if (args.isEmpty()) return fail("usage: render_pictures render|sizes|sheet ...");
     const QString cmd = args.takeFirst();
     if (cmd == "render") return render(args);
+    if (cmd == "sizes") return sizes(args);
     if (cmd == "sheet") return sheet(args);
     return fail("unknown command " + cmd);
 }
