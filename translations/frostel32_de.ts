@@ -133,6 +133,10 @@
         <source>Once again?</source>
         <translation>Noch einmal?</translation>
     </message>
+    <message>
+        <source>There are no words to guess. Choose or create a vocabulary under Game, Options.</source>
+        <translation>Es gibt keine Wörter zum Raten. Wähle oder erstelle einen Wortschatz unter Spiel, Optionen.</translation>
+    </message>
 </context>
 <context>
     <name>Info</name>
