@@ -3,19 +3,20 @@
 # shortcut, take a tip, play the word to its end, end the wait with Enter; in the options a name,
 # both counters by their labels' keys and another word list, whose file has gone by then: the
 # editor says so and takes a new word into its box; the help opened and closed; quit through
-# the menu. Checks the titles the window manager shows and what the files then hold.
+# the menu. Checks the titles the window manager shows and what the files then hold. Then
+# started again and ended by the desktop: by signals, and by a session manager.
 #   under_xvfb.sh with_openbox.sh play_a_word.sh FROSTEL32_BINARY
 #   under_xvfb.sh with_openbox.sh play_a_word.sh --installed   as the menu starts an installed game
 set -u
 bin=$1
 [ "$bin" = --installed ] || bin=$(readlink -f "$1")
 [ -n "${FROSTEL_XVFB:-}" ] || { echo "skipped: run it under under_xvfb.sh"; exit 77; }
-for tool in xdotool xprop; do
+for tool in xdotool xprop xsm iceauth; do
     command -v $tool >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
 done
 work=$(mktemp -d)
-gpid=""
-cleanup() { [ -n "$gpid" ] && kill $gpid 2>/dev/null; wait 2>/dev/null; rm -rf "$work"; }
+gpid="" xsm=""
+cleanup() { kill $gpid $xsm 2>/dev/null; wait 2>/dev/null; rm -rf "$work"; }
 trap cleanup EXIT
 fail() { echo "FAIL: $*"; [ -f "$work/game.log" ] && sed 's/^/  game: /' "$work/game.log"; exit 1; } >&2
 # The game's visible window with that title, waited for up to 10 s; its title must be exactly
@@ -44,10 +45,7 @@ if [ "$bin" = --installed ]; then
     printf 'ox\r\n' >"$folder/frostel.dat"
     printf 'fig\r\n' >"$folder/groceries.dat"
     start=$(sed -n 's/^Exec=//p' /usr/share/applications/net.frostel32.frostel32.desktop)
-    launch() {
-        (cd "$HOME" && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start) \
-            >"$work/game.log" 2>&1 & gpid=$!
-    }
+    run="cd $HOME && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start"
 else
     folder=$work/game
     mkdir -p "$folder"
@@ -55,8 +53,9 @@ else
     cp "$(dirname "$bin")/frostel32-sound.so" "$folder/" 2>/dev/null
     printf 'ox\r\n' >"$folder/frostel.dat"
     printf 'fig\r\n' >"$folder/groceries.dat"
-    launch() { (cd "$folder" && exec ./frostel32) >"$work/game.log" 2>&1 & gpid=$!; }
+    run="cd $folder && exec ./frostel32"
 fi
+launch() { (eval "$run") >"$work/game.log" 2>&1 & gpid=$!; }
 launch
 win=$(window "Frostel32 v2.31") || exit 1 # the splash comes first
 xdotool windowactivate --sync "$win" 2>/dev/null
@@ -132,4 +131,25 @@ for sig in TERM HUP INT; do
     grep -q $'^Left= 2235\r$' "$ini" && grep -q $'^Top= 1500\r$' "$ini" ||
         fail "SIG$sig: not the moved place in $(cat -A "$ini" 2>&1)"
 done
+# And through a real session manager, xsm: its shutdown with a checkpoint ends the game as
+# above. Shutdown is a menu (pressed, "With Checkpoint" below, released there); its dialog
+# wants a session name.
+rm "$ini"
+echo "sh -c '${run/exec /}; echo \$? >$work/status'" >"$HOME/.xsmstartup"
+xsm -session test >/dev/null 2>&1 & xsm=$!
+for _ in $(seq 100); do
+    panel=$(xdotool search --onlyvisible --name '^xsm: ' 2>/dev/null)
+    [ -n "$panel" ] && xdotool search --onlyvisible --name '^Frostel32' >/dev/null && break
+    sleep 0.1
+done
+sleep 2 # past the splash
+xdotool windowactivate --sync "$panel" mousemove --window "$panel" 143 47 mousedown 1 sleep 0.5 \
+    mousemove_relative 30 35 sleep 0.3 mouseup 1 sleep 1
+dialog=$(xdotool search --onlyvisible --name '^Shutdown$' | head -1)
+[ -n "$dialog" ] || fail "xsm's shutdown dialog did not show"
+xdotool mousemove --window "$dialog" 172 15 click 1 type test
+xdotool mousemove --window "$dialog" 46 135 click 1
+for _ in $(seq 100); do [ -s "$work/status" ] && break; sleep 0.1; done
+[ "$(cat "$work/status" 2>/dev/null)" = 0 ] || fail "xsm: exit status $(cat "$work/status")"
+grep -q $'^Status= 0\r$' "$ini" || fail "xsm: no window place in $(cat -A "$ini" 2>&1)"
 echo "1 passed, 0 failed"

@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
-# Installs the build into a scratch prefix and checks what a desktop needs of it.
+# Installs the build into a scratch prefix and checks what a desktop needs of it, and what
+# the installed game makes of a player's folder.
 #   check_install.sh BUILD_DIR
 set -u
-prefix=$(mktemp -d)
-trap 'rm -rf "$prefix"' EXIT
+prefix=$(mktemp -d) home=$(mktemp -d)
+trap 'rm -rf "$prefix" "$home"' EXIT
 fail() { echo "FAIL: $*"; exit 1; }
+data=$prefix/share/games/frostel32
 cmake --install "$1" --prefix "$prefix" >/dev/null || fail "cmake --install"
 id=net.frostel32.frostel32
 for f in games/frostel32 share/applications/$id.desktop share/metainfo/$id.metainfo.xml \
-         share/icons/hicolor/scalable/apps/$id.svg share/icons/hicolor/32x32/apps/$id.png \
-         share/icons/hicolor/64x64/apps/$id.png share/games/frostel32/frostel.dat \
+         share/icons/hicolor/scalable/apps/$id.svg share/games/frostel32/frostel.dat \
          share/games/frostel32/frostl0.wav share/games/frostel32/frostl13.wav \
          share/man/man6/frostel32.6.gz share/doc/frostel32/copyright \
          share/doc/frostel32/README.TXT share/doc/frostel32/README.de.TXT; do
@@ -44,8 +45,8 @@ MANWIDTH=80 man -l "$prefix/share/man/de/man6/frostel32.6.gz" 2>/dev/null | grep
 # The README names the menu's own keys.
 ui=$(dirname "$(readlink -f "$0")")/../../src/mainwindow/eisfig.ui
 for k in $(sed -n 's,.*<string notr="true">\(Ctrl+.\|F1\)</string>.*,\1,p' "$ui"); do
-    grep -qF "$k" "$prefix/share/games/frostel32/README.TXT" || fail "README.TXT does not name $k"
-    grep -qF "${k/Ctrl/Strg}" "$prefix/share/games/frostel32/de/README.TXT" ||
+    grep -qF "$k" "$data/README.TXT" || fail "README.TXT does not name $k"
+    grep -qF "${k/Ctrl/Strg}" "$data/de/README.TXT" ||
         fail "the German README.TXT does not name ${k/Ctrl/Strg}"
 done
 for s in 16 22 24 32 48 64 128 256; do
@@ -53,13 +54,42 @@ for s in 16 22 24 32 48 64 128 256; do
         fail "no ${s}x$s icon"
 done
 # The program finds its data and its sound module by paths relative to its own folder.
-data=$(strings -el "$prefix/games/frostel32" | grep -m1 '^\.\./.*/frostel32$')
-[ -n "$data" ] && [ -s "$prefix/games/$data/frostel.dat" ] ||
-    fail "the word files are not where the program looks ($data)"
+found=$(strings -el "$prefix/games/frostel32" | grep -m1 '^\.\./.*/frostel32$')
+[ -n "$found" ] && [ -s "$prefix/games/$found/frostel.dat" ] ||
+    fail "the word files are not where the program looks ($found)"
 rel=$(strings -el "$prefix/games/frostel32" | grep -m1 '^/\.\..*/frostel32$')
 module="$prefix/games$rel/frostel32-sound.so"
 [ -n "$rel" ] && [ -s "$module" ] || fail "the sound module is not where the program looks ($rel)"
 nm -D --defined-only "$module" | grep -q ' frostel32_create_sound_player$' \
     || fail "the sound module has no entry point"
 ! ldd "$module" | grep -q 'not found' || fail "the sound module misses libraries"
+# Across an upgrade: a list the player edited stays byte for byte, a copy of a version
+# shipped before is renewed, a missing one comes, each in the player's language, and the
+# guide too; the sounds stay where they were installed. play LANG starts the installed game
+# in LANG until it has filled the player's folder; the desktop ends it.
+own=$home/.local/share/frostel32
+play() {
+    HOME=$home XDG_DATA_HOME=$home/.local/share XDG_CONFIG_HOME=$home/.config \
+        XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen LANG=$1 "$prefix/games/frostel32" &
+    local pid=$!
+    for _ in $(seq 100); do [ -s "$own/frostel.dat" ] && break; sleep 0.1; done
+    kill -TERM $pid; wait $pid || fail "exit $? after SIGTERM"
+}
+same() { cmp -s "$1" "$2" || fail "$(basename "$1") is not $2"; }
+mkdir -p "$own"
+printf 'oak\r\n' >"$own/nature.dat" # as an earlier version shipped it
+echo "$(sha256sum <"$own/nature.dat" | cut -d' ' -f1)  nature.dat" >>"$data/shipped.sha256"
+printf 'kiwi\r\nmango\r\n' >"$own/groceries.dat" # the player's own
+cp "$own/groceries.dat" "$home/edited"
+play C.UTF-8
+same "$own/nature.dat" "$data/nature.dat"
+same "$own/groceries.dat" "$home/edited"
+same "$own/frostel.dat" "$data/frostel.dat"
+same "$own/README.TXT" "$data/README.TXT"
+! ls "$own" | grep -q '\.wav$' || fail "sounds were copied"
+
+rm -rf "$own"
+play de_DE.UTF-8
+same "$own/frostel.dat" "$data/de/frostel.dat"
+same "$own/README.TXT" "$data/de/README.TXT"
 echo "1 passed, 0 failed"
