@@ -162,6 +162,13 @@ private:
             if (key == "words") g.List1 = v.split(',', Qt::SkipEmptyParts);
             else if (key == "players") g.g.AnzSpieler = n;
             else if (key == "tips") g.g.AnzTips = n;
+            else if (key == "points") // "points=0,7": Marta's and Helene's, their symbols up
+                for (int i = 0; const QString& p : v.split(',')) {
+                    g.g.Punkte[i] = int16_t(p.toInt());
+                    for (int j = 0; j < core::kPointsToWin; ++j)
+                        g.board.Punkt[i * core::kPointsToWin + j].Visible = j < p.toInt();
+                    ++i;
+                }
             else if (key == "names")
                 std::ranges::copy(v.split(',').mid(0, 4), g.einst.Spieler_Name.begin());
             else if (key == "repeat") g.einst.wiederh = {v == "all", v != "all"};

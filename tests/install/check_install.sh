@@ -16,14 +16,10 @@ for f in games/frostel32 share/applications/$id.desktop share/metainfo/$id.metai
          share/doc/frostel32/README.TXT share/doc/frostel32/README.de.TXT; do
     [ -s "$prefix/$f" ] || fail "$f not installed"
 done
-if command -v appstreamcli >/dev/null; then
-    appstreamcli validate --no-net "$prefix/share/metainfo/$id.metainfo.xml" >/dev/null \
-        || fail "the metainfo does not validate"
-fi
-if command -v desktop-file-validate >/dev/null; then
-    out=$(desktop-file-validate "$prefix/share/applications/$id.desktop") || fail "$out"
-    [ -z "$out" ] || fail "$out"
-fi
+appstreamcli validate --no-net "$prefix/share/metainfo/$id.metainfo.xml" >/dev/null ||
+    fail "the metainfo does not validate"
+out=$(desktop-file-validate "$prefix/share/applications/$id.desktop" 2>&1) && [ -z "$out" ] ||
+    fail "the desktop entry: $out"
 # A German desktop: launcher, software centre and manual page in German, the window matched to
 # its launcher, the player's README in both languages, the icon at every size a theme asks for.
 desktop=$prefix/share/applications/$id.desktop
