@@ -29,36 +29,40 @@ constexpr uint32_t kBlue = 0xFF0000, kRed = 0x0000FF, kWhite = 0xFFFFFF, kLightG
 // The letter a tile carries.
 QChar tileTag(int index);
 
-// The module of shared state every window reaches.
+// The module of shared state every window reaches. The German names are the game's own
+// (README.md has them all in a table).
 struct Global {
-    QString Wort;
-    int16_t Fehler = 0;
-    int16_t AnzSpieler = 4;
-    int16_t AnzTips = 3;
-    int16_t AktSpieler = 0;
-    int16_t Treffer = 0;
-    std::array<int16_t, kPlayers> Punkte{};
-    int16_t TipZaehler = 0;
-    bool EinstGeaendert = false;
-    bool SpielLaeuft = false;
-    QString WortDatei;
-    int16_t MotivNr = 1;
-    bool Geaendert = false;
+    QString Wort;           // "word": the hidden word in capitals; empty before the first
+    int16_t Fehler = 0;     // "misses" in this word, 0 to 9; also the picture's stage
+    int16_t AnzSpieler = 4; // "number of players", 1 to 4
+    int16_t AnzTips = 3;    // "number of tips" allowed a word, 0 to 3
+    int16_t AktSpieler = 0; // "current player": the row at turn, 0-based
+    int16_t Treffer = 0;    // "hits": fields uncovered in this word
+    std::array<int16_t, kPlayers> Punkte{}; // "points" of each player; 8 win
+    int16_t TipZaehler = 0;                 // "tip counter": tips taken in this word
+    bool EinstGeaendert = false;            // "options changed" so that a new game must start
+    bool SpielLaeuft = false;               // "game running": a start asks before it drops the game
+    QString WortDatei;      // "word file": the vocabulary's file name in the working folder
+    int16_t MotivNr = 1;    // "motif number": 0 the apple tree, 1 the Frostel figure
+    bool Geaendert = false; // "changed": the editor's list differs from its file
 };
 
 // The options that live in the options window's controls, read by the game at each use.
 struct Options {
     int Sound = 1;   // on when 1
-    int Anzeige = 1; // show the solution of a lost word when 1
+    int Anzeige = 1; // "display": show the solution of a lost word when 1
+    // "repeat": [0] all words stay in the list, [1] only words not yet guessed
     std::array<bool, 2> wiederh{true, false};
     std::array<QString, kPlayers> Spieler_Name{"Marta", "Helene", "Matthis", "Svenja"};
 };
 
+// A letter tile ("alpha"): a guess by click or key.
 struct Tile {
     bool Visible = true;
     bool Enabled = false;
 };
 
+// A field ("Feld") of the hidden word: covered, or showing the tile of its letter.
 struct Field {
     bool loaded = false;
     bool Visible = false;
@@ -67,6 +71,7 @@ struct Field {
     int picture = -1; // -1: the covered tile; otherwise the index of the letter tile shown
 };
 
+// A scoreboard row's name ("Spieler"), red at turn.
 struct PlayerLabel {
     bool loaded = false;
     bool Visible = true;
@@ -76,6 +81,7 @@ struct PlayerLabel {
     int Left = 240, Top = 360, Width = kLabelWidth, Height = 360;
 };
 
+// A point ("Punkt") of a scoreboard row, shown in the motif's point picture.
 struct PointSymbol {
     bool loaded = false;
     bool Visible = false;
@@ -88,13 +94,15 @@ struct Board {
     Board();
     std::array<Tile, kTiles> alpha;
     std::vector<Field> Feld; // Feld[0] is the hidden pattern of the word's fields
+    // "picture series": which stage's picture shows; stage 0 grows in height at a new word
     std::array<bool, kStages> B_Folge_Visible{};
     int B_Folge0_Height = kPictureSize;
     int seriesMotif = -1; // the motif whose pictures B_Folge holds; -1: none yet
     std::array<PlayerLabel, kPlayers> Spieler;
     std::array<PointSymbol, kSymbols> Punkt;
     bool tip_Enabled = false;
-    bool weiter_Enabled = false;
+    bool weiter_Enabled = false; // "go on": a finished word is held until the next word
+    // The picture buttons: start, end, tip, next word
     std::array<bool, 4> PicBut_Visible{true, true, true, false};
 };
 
