@@ -89,13 +89,6 @@
     </message>
 </context>
 <context>
-    <name>Einst</name>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
     <name>Game</name>
     <message>
         <source>File %1 not found!</source>
@@ -139,63 +132,14 @@
     </message>
 </context>
 <context>
-    <name>Info</name>
+    <name>InfoWindow</name>
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
-    <name>WEdit</name>
-    <message>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>about::InfoWindow</name>
-    <message>
-        <source>For more Information see README.TXT!</source>
-        <translation>Mehr dazu in README.TXT!</translation>
-    </message>
-</context>
-<context>
-    <name>editor::VocabularyEditor</name>
-    <message>
-        <source>Edit vocabulary...</source>
-        <translation>Wortschatz bearbeiten...</translation>
-    </message>
-    <message>
-        <source>&amp;Add</source>
-        <translation>&amp;Hinzufügen</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Löschen</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>Save changes?</source>
-        <translation>Änderungen speichern?</translation>
-    </message>
-    <message>
-        <source>Word</source>
-        <translation>Wort</translation>
-    </message>
-    <message>
-        <source>Words</source>
-        <translation>Wörter</translation>
-    </message>
-</context>
-<context>
-    <name>eisfig</name>
+    <name>MainWindow</name>
     <message>
         <source>Spiel starten</source>
         <translation>Spiel starten</translation>
@@ -251,6 +195,62 @@
     <message>
         <source>&amp;Info...</source>
         <translation>&amp;Info...</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsWindow</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>VocabularyEditor</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>about::InfoWindow</name>
+    <message>
+        <source>For more Information see README.TXT!</source>
+        <translation>Mehr dazu in README.TXT!</translation>
+    </message>
+</context>
+<context>
+    <name>editor::VocabularyEditor</name>
+    <message>
+        <source>Edit vocabulary...</source>
+        <translation>Wortschatz bearbeiten...</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save changes?</source>
+        <translation>Änderungen speichern?</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "about/info_window.h"
 
-#include "ui_info.h"
+#include "ui_info_window.h"
 #include "widgets/pictures.h"
 
 #include <QTimer>
@@ -8,7 +8,7 @@
 namespace about {
 
 InfoWindow::InfoWindow(QWidget* mainWindow, QWidget* parent)
-    : DesignDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), ui_(std::make_unique<Ui::Info>()),
+    : DesignDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), ui_(std::make_unique<Ui::InfoWindow>()),
       mainWindow_(mainWindow)
 {
     ui_->setupUi(this);

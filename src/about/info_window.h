@@ -9,7 +9,7 @@
 class QLabel;
 class QTimer;
 namespace Ui {
-class Info;
+class InfoWindow;
 }
 
 namespace about {
@@ -36,7 +36,7 @@ public:
     QTimer* Timer1() const { return timer1_; }
 
 private:
-    std::unique_ptr<Ui::Info> ui_;
+    std::unique_ptr<Ui::InfoWindow> ui_;
     QPointer<QWidget> mainWindow_;
     QTimer* timer1_ = nullptr;
 };

@@ -1,7 +1,7 @@
 #include "editor/vocabulary_editor.h"
 
 #include "editor/editor_rules.h"
-#include "ui_wedit.h"
+#include "ui_vocabulary_editor.h"
 #include "vocabulary/word_file.h"
 #include "widgets/panel.h"
 #include "widgets/twips.h"
@@ -42,7 +42,7 @@ std::vector<std::pair<int, int>> blocksOf(const QItemSelection& selection)
 
 VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core::Toolkit& toolkit,
                                    QWidget* parent)
-    : DesignDialog(parent), ui_(std::make_unique<Ui::WEdit>()), g_(g), mainList_(mainList),
+    : DesignDialog(parent), ui_(std::make_unique<Ui::VocabularyEditor>()), g_(g), mainList_(mainList),
       tk_(toolkit), words_(new SortedWords(this)), rows_(new WordRows(this))
 {
     ui_->setupUi(this);

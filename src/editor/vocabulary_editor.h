@@ -9,7 +9,7 @@
 #include <memory>
 
 namespace Ui {
-class WEdit;
+class VocabularyEditor;
 }
 
 namespace editor {
@@ -47,7 +47,7 @@ private:
     void List1_Click();
     void List1_DblClick();
 
-    std::unique_ptr<Ui::WEdit> ui_;
+    std::unique_ptr<Ui::VocabularyEditor> ui_;
     core::Global& g_;
     QStringList& mainList_;
     core::Toolkit& tk_;

@@ -1,7 +1,7 @@
 // The main window as a view of the game: its pictures, the fields of the word, the scoreboard.
 #include "mainwindow/main_window.h"
 
-#include "ui_eisfig.h"
+#include "ui_main_window.h"
 #include "widgets/picture_button.h"
 #include "widgets/pictures.h"
 #include "widgets/spoken_notice.h"

@@ -4,7 +4,7 @@
 #include "editor/vocabulary_editor.h"
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"
-#include "ui_eisfig.h"
+#include "ui_main_window.h"
 #include "widgets/picture_button.h"
 #include "widgets/pictures.h"
 #include "widgets/spoken_notice.h"
@@ -21,7 +21,7 @@ namespace mainwindow {
 MainWindow::MainWindow() : MainWindow(Setup{}) {}
 
 MainWindow::MainWindow(Setup setup)
-    : setup_(std::move(setup)), ui_(std::make_unique<Ui::eisfig>()), profile_(setup_.profilePath)
+    : setup_(std::move(setup)), ui_(std::make_unique<Ui::MainWindow>()), profile_(setup_.profilePath)
 {
     if (!setup_.exitProgram) setup_.exitProgram = [](int code) { QCoreApplication::exit(code); };
     ui_->setupUi(this);

@@ -18,7 +18,7 @@
 
 class QLabel;
 namespace Ui {
-class eisfig;
+class MainWindow;
 }
 namespace widgets {
 class PictureButton;
@@ -104,7 +104,7 @@ private:
     void moveTwips(QWidget* w, long long left, long long top);
 
     Setup setup_;
-    std::unique_ptr<Ui::eisfig> ui_;
+    std::unique_ptr<Ui::MainWindow> ui_;
     platform::QtToolkit tk_;
     core::Game game_{tk_};
     settings::Profile profile_;

@@ -2,7 +2,7 @@
 
 #include "settings/spin_accessible.h"
 #include "settings/stored_settings.h"
-#include "ui_einst.h"
+#include "ui_options_window.h"
 #include "widgets/panel.h"
 #include "widgets/pictures.h"
 #include "widgets/twips.h"
@@ -30,7 +30,7 @@ constexpr QRect kRepeatFrame{2600, 650, 2600, 1300};
 
 OptionsWindow::OptionsWindow(core::Game& game, Profile& profile, const QStringList& rows,
                              bool preset, QWidget* parent)
-    : DesignDialog(parent), game_(game), profile_(profile), ui_(std::make_unique<Ui::Einst>())
+    : DesignDialog(parent), game_(game), profile_(profile), ui_(std::make_unique<Ui::OptionsWindow>())
 {
     ui_->setupUi(this);
     applyDesign();

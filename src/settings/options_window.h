@@ -19,7 +19,7 @@ class QListWidget;
 class QRadioButton;
 class QTimer;
 namespace Ui {
-class Einst;
+class OptionsWindow;
 }
 
 namespace settings {
@@ -74,7 +74,7 @@ private:
 
     core::Game& game_;
     Profile& profile_;
-    std::unique_ptr<Ui::Einst> ui_;
+    std::unique_ptr<Ui::OptionsWindow> ui_;
     std::array<QLineEdit*, 4> spielerName_{};
     std::array<QRadioButton*, 2> wiederh_{};
     std::array<QLabel*, 2> zahl_{};

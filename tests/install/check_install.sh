@@ -39,7 +39,7 @@ done
 MANWIDTH=80 man -l "$prefix/share/man/de/man6/frostel32.6.gz" 2>/dev/null | grep -q '^BESCHREIBUNG' ||
     fail "the German manual page is not German"
 # The README names the menu's own keys.
-ui=$(dirname "$(readlink -f "$0")")/../../src/mainwindow/eisfig.ui
+ui=$(dirname "$(readlink -f "$0")")/../../src/mainwindow/main_window.ui
 for k in $(sed -n 's,.*<string notr="true">\(Ctrl+.\|F1\)</string>.*,\1,p' "$ui"); do
     grep -qF "$k" "$data/README.TXT" || fail "README.TXT does not name $k"
     grep -qF "${k/Ctrl/Strg}" "$data/de/README.TXT" ||
