@@ -248,9 +248,9 @@ void MainWindow::Anordnen()
 {
     fitFrame();
     const QRect outer = frameGeometry();
-    const Layout l = mainwindow::Anordnen(widgets::pixelsToTwips(outer.width()),
-                                          widgets::pixelsToTwips(outer.height()),
-                                          game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
+    const Layout l =
+        layoutFor(widgets::pixelsToTwips(outer.width()), widgets::pixelsToTwips(outer.height()),
+                  game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
     for (QLabel* b : B_Folge_) moveTwips(b, l.bFolge.left, l.bFolge.top);
     for (int i = 0; i < 3; ++i) moveTwips(picButs_[i], l.picBut[i].left, l.picBut[i].top);
     moveTwips(ui_->Picture1, l.picture1.left, l.picture1.top);

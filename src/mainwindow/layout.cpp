@@ -13,7 +13,7 @@ constexpr int kGapBelowWord = 350;
 
 } // namespace
 
-Layout Anordnen(double W, double H, int bFolge0Height, int letters)
+Layout layoutFor(double W, double H, int bFolge0Height, int letters)
 {
     using core::idiv;
     Layout l;

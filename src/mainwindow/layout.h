@@ -26,6 +26,6 @@ struct Layout {
 
 // W, H: the window's outer size; bFolge0Height: the first picture's height, smaller while
 // it grows; letters: the length of the word, 0 with none.
-Layout Anordnen(double W, double H, int bFolge0Height, int letters);
+Layout layoutFor(double W, double H, int bFolge0Height, int letters);
 
 } // namespace mainwindow

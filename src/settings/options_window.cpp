@@ -334,7 +334,7 @@ void OptionsHost::load()
 {
     rows_ = wordFileRows();
     // The stored name if the list holds it exactly, else the first row.
-    game_.g.WortDatei = chooseWordFile(readWordFile(profile_), rows_);
+    game_.g.WortDatei = chooseWordFile(readWordFileName(profile_), rows_);
     loaded_ = true;
 }
 

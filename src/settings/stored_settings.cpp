@@ -54,7 +54,7 @@ void readCounts(const Profile& profile, core::Global& g)
     g.AnzTips = readShort(profile, QStringLiteral("Tips"), 3);
 }
 
-QString readWordFile(const Profile& profile)
+QString readWordFileName(const Profile& profile)
 {
     // The default is all blanks, which come back empty.
     return profile.GetPrivateProfileString(kSettings, QStringLiteral("Datei"), QString(255, u' '),

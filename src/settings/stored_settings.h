@@ -24,7 +24,7 @@ void writeWindowPlace(Profile& profile, const WindowPlace& place);
 // Section "Einstellungen". The counts come first: the options window loads between them and
 // the rest.
 void readCounts(const Profile& profile, core::Global& g);
-QString readWordFile(const Profile& profile);
+QString readWordFileName(const Profile& profile);
 void readChoices(const Profile& profile, core::Global& g, core::Options& einst);
 // A stored default name ("Spieler 3", or any with 1 to 4 as its ninth character) leaves the
 // game's own name in place.
