@@ -21,7 +21,8 @@ namespace mainwindow {
 MainWindow::MainWindow() : MainWindow(Setup{}) {}
 
 MainWindow::MainWindow(Setup setup)
-    : setup_(std::move(setup)), ui_(std::make_unique<Ui::MainWindow>()), profile_(setup_.profilePath)
+    : setup_(std::move(setup)), ui_(std::make_unique<Ui::MainWindow>()),
+      profile_(setup_.profilePath)
 {
     if (!setup_.exitProgram) setup_.exitProgram = [](int code) { QCoreApplication::exit(code); };
     ui_->setupUi(this);

@@ -4,6 +4,7 @@
 
 #include "mainwindow/screen_fit.h"
 #include "widgets/twips.h"
+#include "widgets/window_design.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -34,7 +35,7 @@ int16_t MainWindow::restorePlace()
     settings::WindowPlace stored;
     stored.state = settings::readWindowState(profile_);
     const QSize design(int(tw(kDesignOuter.width())), int(tw(kDesignOuter.height())));
-    const QPoint centre = centreOf(available(QGuiApplication::primaryScreen()), design);
+    const QPoint centre = widgets::centredIn(available(QGuiApplication::primaryScreen()), design);
     // Maximised, the stored place waits for a close in another state; restored, the window
     // stands as at a first start, and not wherever the window manager made it.
     if (stored.state == 2)

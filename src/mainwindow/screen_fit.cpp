@@ -1,5 +1,7 @@
 #include "mainwindow/screen_fit.h"
 
+#include "widgets/window_design.h"
+
 #include <QtGlobal>
 
 namespace mainwindow {
@@ -21,15 +23,9 @@ Span fit(long long start, long long length, long long first, long long room, lon
 
 } // namespace
 
-QPoint centreOf(const QRect& screen, const QSize& size)
-{
-    return {screen.left() + (screen.width() - size.width()) / 2,
-            screen.top() + (screen.height() - size.height()) / 2};
-}
-
 QRect fitToScreen(const settings::WindowPlace& stored, const QRect& screen, const QSize& minimum)
 {
-    const QPoint centre = centreOf(screen, minimum);
+    const QPoint centre = widgets::centredIn(screen, minimum);
     const Span x =
         fit(stored.left, stored.width, screen.left(), screen.width(), minimum.width(), centre.x());
     const Span y =

@@ -9,9 +9,6 @@
 
 namespace mainwindow {
 
-// Where a window of `size` stands centred on `screen`: the differences halved.
-QPoint centreOf(const QRect& screen, const QSize& size);
-
 // The place and size a stored one (any values at all) takes on `screen`, the available area
 // of its screen. The size lies between `minimum` and the screen's; a corner off the screen, judged
 // by that size, goes back to the centre for a window of `minimum` size, moved in as far as the

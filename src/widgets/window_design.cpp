@@ -49,11 +49,11 @@ void applyPointSizes(QWidget* widget)
         applyPointSizes(child);
 }
 
-QPoint centredTwips(QSize screenTwips, QSize windowTwips)
+QPoint centredIn(const QRect& area, const QSize& size)
 {
     // Integer division truncates towards zero, also for negative differences.
-    return QPoint((screenTwips.width() - windowTwips.width()) / 2,
-                  (screenTwips.height() - windowTwips.height()) / 2);
+    return area.topLeft() +
+           QPoint((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
 }
 
 void centreOnScreen(QWidget* window)
@@ -63,17 +63,15 @@ void centreOnScreen(QWidget* window)
     const QSize screenPx = screen->geometry().size();
     const QMargins frame = frameOf(window);
     const QSize outerPx = window->size().grownBy(frame);
-    const QPoint twips = centredTwips(screenPx * kTwipsPerPixel, outerPx * kTwipsPerPixel);
+    const QPoint twips =
+        centredIn(QRect(QPoint(), screenPx * kTwipsPerPixel), outerPx * kTwipsPerPixel);
     // A move places the frame's corner.
     window->move(twipsToPixels(twips.x()), twipsToPixels(twips.y()));
 }
 
 void centreOnOwner(QWidget* window, const QWidget* owner)
 {
-    const QRect area = owner->frameGeometry();
-    const QSize outer = window->size().grownBy(frameOf(window));
-    window->move(area.topLeft() +
-                 QPoint((area.width() - outer.width()) / 2, (area.height() - outer.height()) / 2));
+    window->move(centredIn(owner->frameGeometry(), window->size().grownBy(frameOf(window))));
 }
 
 void keepEmptyTitle(QWidget* window)

@@ -14,9 +14,9 @@ namespace widgets {
 // .ui files hold whole points only, the windows use 8.25 and 9.75.
 void applyPointSizes(QWidget* widget);
 
-// Left and top, in twips, that centre a window on a screen: each difference halved and
-// cut towards zero, so a window larger than the screen gets negative values.
-QPoint centredTwips(QSize screenTwips, QSize windowTwips);
+// The corner that centres a window of `size` in `area`, in any one unit: each difference
+// halved and cut towards zero, so a window larger than the area starts before it.
+QPoint centredIn(const QRect& area, const QSize& size);
 // Moves the window, frame and all, to the middle of the primary screen by one move.
 void centreOnScreen(QWidget* window);
 // Moves the window, frame and all, to the middle of its owner.

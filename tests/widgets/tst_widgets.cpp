@@ -36,7 +36,7 @@ private slots:
         for (auto [twips, pixels] : {std::pair{7.0, 0}, {7.5, 1}, {-7.5, -1}, {3732.0, 249}})
             QCOMPARE(widgets::twipsToPixels(twips), pixels);
         // Centred, halves are cut towards zero.
-        QCOMPARE(widgets::centredTwips({12000, 12000}, {5340, 4935}), QPoint(3330, 3532));
+        QCOMPARE(widgets::centredIn({0, 0, 12000, 12000}, {5340, 4935}), QPoint(3330, 3532));
         // Every control takes its design value; a window takes its size only, where it stands
         // is for its load handler to say.
         QWidget window;
