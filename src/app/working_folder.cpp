@@ -1,10 +1,11 @@
 #include "app/working_folder.h"
 
+#include "platform/translations.h"
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 #include <QSaveFile>
 #include <QSet>
 #include <QStandardPaths>
@@ -75,7 +76,7 @@ Folders enterWorkingFolder()
     // Word files in the player's language where there are such; the sounds stay where
     // they were installed.
     QDir words = installed;
-    if (QLocale().language() == QLocale::German && installed.exists(QStringLiteral("de")))
+    if (platform::isGerman() && installed.exists(QStringLiteral("de")))
         words.cd(QStringLiteral("de"));
     bringUpToDate(words, own);
     QDir::setCurrent(own);

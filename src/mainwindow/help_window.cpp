@@ -1,5 +1,6 @@
 #include "mainwindow/help_window.h"
 
+#include "platform/translations.h"
 #include "widgets/focus_ring.h"
 #include "widgets/window_design.h"
 
@@ -69,8 +70,7 @@ protected:
 
 QString helpFolder(const QLocale& locale)
 {
-    return locale.language() == QLocale::German ? QStringLiteral(":/help/de/")
-                                                : QStringLiteral(":/help/");
+    return platform::isGerman(locale) ? QStringLiteral(":/help/de/") : QStringLiteral(":/help/");
 }
 
 HelpWindow::HelpWindow(QWidget* parent)

@@ -24,4 +24,6 @@ bool installTranslators(const QLocale& locale)
     return true;
 }
 
+bool isGerman(const QLocale& locale) { return locale.language() == QLocale::German; }
+
 } // namespace platform

@@ -8,5 +8,7 @@ namespace platform {
 // Installs the translators for `locale` into the application; English needs none. Returns
 // whether the game's own texts are translated.
 bool installTranslators(const QLocale& locale = QLocale());
+// Whether the player gets the German texts, help pages and word files; everyone else English.
+bool isGerman(const QLocale& locale = QLocale());
 
 } // namespace platform
