@@ -1,12 +1,12 @@
 #include "app/working_folder.h"
 
 #include "platform/translations.h"
+#include "vocabulary/whole_file.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QSet>
 #include <QStandardPaths>
 
@@ -29,12 +29,6 @@ QSet<QByteArray> shippedVersions(const QDir& shipped)
     return lines;
 }
 
-bool replace(const QString& target, const QByteArray& bytes)
-{
-    QSaveFile out(target); // the old copy stays whole if this fails
-    return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.commit();
-}
-
 // Copies what the player's folder lacks and renews the game's own files in it.
 void bringUpToDate(const QDir& shipped, const QString& own)
 {
@@ -49,13 +43,14 @@ void bringUpToDate(const QDir& shipped, const QString& own)
         // any other the player has edited, and it stays as it is.
         const QByteArray mine = contents(target), now = contents(shipped.filePath(name));
         const QByteArray sum = QCryptographicHash::hash(mine, QCryptographicHash::Sha256).toHex();
-        if (mine != now && versions.contains(sum + "  " + name.toLatin1())) replace(target, now);
+        if (mine != now && versions.contains(sum + "  " + name.toLatin1()))
+            vocabulary::writeWhole(target, now);
     }
     // The player's guide is the game's, in the player's language.
     const QString readme = QStringLiteral("README.TXT");
     if (shipped.exists(readme) &&
         contents(own + '/' + readme) != contents(shipped.filePath(readme)))
-        replace(own + '/' + readme, contents(shipped.filePath(readme)));
+        vocabulary::writeWhole(own + '/' + readme, contents(shipped.filePath(readme)));
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "settings/profile.h"
 
 #include "vocabulary/codepage.h"
+#include "vocabulary/whole_file.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <cmath>
 #include <limits>
@@ -154,17 +154,8 @@ bool Profile::WritePrivateProfileString(const QString& section, const QString& k
         return false;
     };
     if (!QDir().mkpath(QFileInfo(path_).absolutePath())) return failed("no folder");
-    QSaveFile file(path_);
-    if (!file.open(QIODevice::WriteOnly)) return failed(file.errorString());
-    // commit() would rename a short file over the old one when the last buffered write failed
-    // (a full disk), so every byte must have reached the file first.
-    if (file.write(bytes) != bytes.size() || !file.flush() ||
-        file.error() != QFileDevice::NoError) {
-        const QString why = file.errorString();
-        file.cancelWriting();
-        return failed(why);
-    }
-    return file.commit() || failed(file.errorString());
+    const auto failure = vocabulary::writeWhole(path_, bytes);
+    return !failure || failed(failure->text);
 }
 
 QString Profile::defaultPath()

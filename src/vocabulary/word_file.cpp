@@ -1,14 +1,13 @@
 #include "vocabulary/word_file.h"
 
 #include "vocabulary/codepage.h"
+#include "vocabulary/whole_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
-#include <cerrno>
 
 namespace vocabulary {
 namespace {
@@ -175,24 +174,10 @@ std::optional<Failure> writeWordFile(const QString& fileName, const QStringList&
         bytes += encodeCp1252(w);
         bytes += "\r\n";
     }
-    QSaveFile file(fileName);
-    // A folder that takes no new file may still hold a writable one: then it is written in
-    // place. Everywhere else the old file stays whole until the new one is.
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly)) return kAccess;
-    // commit() would rename a short file over the old one when the last buffered write failed
-    // (a full disk), so every byte must have reached the file first.
-    errno = 0;
-    if (file.write(bytes) != bytes.size() || !file.flush() ||
-        file.error() != QFileDevice::NoError) {
-        const int error = errno;
-        const bool full =
-            error == ENOSPC || error == EFBIG || file.error() == QFileDevice::ResourceError;
-        file.cancelWriting();
-        return full ? kDiskFull : kDeviceIo;
-    }
-    if (!file.commit()) return file.error() == QFileDevice::ResourceError ? kDiskFull : kAccess;
-    return std::nullopt;
+    const auto failure = writeWhole(fileName, bytes, true);
+    if (!failure) return std::nullopt;
+    if (failure->diskFull) return kDiskFull;
+    return failure->stage == WriteFailure::Write ? kDeviceIo : kAccess;
 }
 
 } // namespace vocabulary
