@@ -183,7 +183,7 @@ void Game::createPlayerSymbols(int i)
             s = board.Punkt[0];
             s.Visible = false;
             s.loaded = true;
-            s.symbol = g.MotivNr == 0 ? 0 : 1;
+            s.symbol = motifOf(g.MotivNr);
         }
         s.Left = j * kPointWidth + 2400;
         s.Top = int(cint(i * kPointWidth * 1.5 + 400));
@@ -192,7 +192,7 @@ void Game::createPlayerSymbols(int i)
 
 void Game::MotivSetzen()
 {
-    const int motif = g.MotivNr == 0 ? 0 : 1;
+    const Motif motif = motifOf(g.MotivNr);
     board.seriesMotif = motif;
     for (PointSymbol& s : board.Punkt) s.symbol = motif;
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace core {
@@ -28,6 +29,12 @@ constexpr uint32_t kBlue = 0xFF0000, kRed = 0x0000FF, kWhite = 0xFFFFFF, kLightG
 
 // The letter a tile carries.
 QChar tileTag(int index);
+
+// The picture series and its point symbol: the apple tree through the year, or the Frostel
+// figure melting into spring.
+enum class Motif { AppleTree = 0, Frostel = 1 };
+// The motif a stored number stands for: only 0 is the apple tree.
+inline Motif motifOf(int motivNr) { return motivNr == 0 ? Motif::AppleTree : Motif::Frostel; }
 
 // The module of shared state every window reaches. The German names are the game's own
 // (README.md has them all in a table).
@@ -86,7 +93,7 @@ struct PointSymbol {
     bool loaded = false;
     bool Visible = false;
     int Left = 2400, Top = 360;
-    int symbol = 1; // which of the two point symbols it shows
+    Motif symbol = Motif::Frostel;
 };
 
 // What the main window shows of the game.
@@ -97,7 +104,7 @@ struct Board {
     // "picture series": which stage's picture shows; stage 0 grows in height at a new word
     std::array<bool, kStages> B_Folge_Visible{};
     int B_Folge0_Height = kPictureSize;
-    int seriesMotif = -1; // the motif whose pictures B_Folge holds; -1: none yet
+    std::optional<Motif> seriesMotif; // the motif whose pictures B_Folge holds
     std::array<PlayerLabel, kPlayers> Spieler;
     std::array<PointSymbol, kSymbols> Punkt;
     bool tip_Enabled = false;

@@ -91,7 +91,8 @@ QString Announcer::playerName(const core::Game& game, int player)
 
 QString Announcer::pictureName(const core::Game& game)
 {
-    const QString motif = game.g.MotivNr == 0 ? tr("Apple tree") : tr("Frostel");
+    const QString motif =
+        core::motifOf(game.g.MotivNr) == core::Motif::AppleTree ? tr("Apple tree") : tr("Frostel");
     return tr("%1, stage %2 of %3").arg(motif).arg(game.g.Fehler).arg(core::kLostAt);
 }
 

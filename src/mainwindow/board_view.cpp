@@ -65,8 +65,7 @@ void MainWindow::loadPictures()
     ui_->Symbol_0->setPixmap(symbols_[0]);
     ui_->Symbol_1->setPixmap(symbols_[1]);
     ui_->Punkt_0->setPixmap(widgets::picture(QStringLiteral("punkt0"), dpr));
-    shownSymbol_.fill(-1);
-    shownSymbol_[0] = 1;
+    shownSymbol_[0] = core::Motif::Frostel;
     for (int i = 0; i < 3; ++i)
         picButs_[i]->setPicture(widgets::picture(QStringLiteral("picbut%1").arg(i), dpr));
     QPalette pal = ui_->PicBut_3->palette();
@@ -143,15 +142,15 @@ void MainWindow::syncTiles()
 void MainWindow::syncSeries()
 {
     const core::Board& b = game_.board;
-    if (b.seriesMotif != shownSeries_ && b.seriesMotif >= 0) {
+    if (b.seriesMotif && b.seriesMotif != shownSeries_) {
         shownSeries_ = b.seriesMotif;
         stageLoaded_.fill(false);
     }
     // Only the pictures on show are held: one stage or two, not twenty.
-    const QString stem =
-        shownSeries_ == 0 ? QStringLiteral("apfelbaum%1") : QStringLiteral("eisfigur%1");
+    const QString stem = shownSeries_ == core::Motif::AppleTree ? QStringLiteral("apfelbaum%1")
+                                                                : QStringLiteral("eisfigur%1");
     for (int s = 0; s < core::kStages; ++s) {
-        if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_ >= 0) {
+        if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_) {
             B_Folge_[s]->setPixmap(widgets::picture(stem.arg(s), devicePixelRatioF()));
             stageLoaded_[s] = true;
         } else if (!b.B_Folge_Visible[s] && stageLoaded_[s]) {
@@ -206,7 +205,7 @@ void MainWindow::syncPoints()
         }
         moveTwips(label, s.Left, s.Top);
         if (shownSymbol_[k] != s.symbol) {
-            label->setPixmap(symbols_[s.symbol == 0 ? 0 : 1]);
+            label->setPixmap(symbols_[int(s.symbol)]);
             shownSymbol_[k] = s.symbol;
         }
         label->setVisible(s.Visible);

@@ -121,9 +121,9 @@ private:
     QPixmap covered_;
 
     // What is on show, so a redraw touches only what changed.
-    int shownSeries_ = -1;
+    std::optional<core::Motif> shownSeries_;
     std::array<bool, core::kStages> stageLoaded_{};
-    std::array<int, core::kSymbols> shownSymbol_{};
+    std::array<std::optional<core::Motif>, core::kSymbols> shownSymbol_{};
     int shownHeight_ = -1;
     Seen heard_; // what a screen reader was last told of
     widgets::SpokenNotice* notice_ = nullptr;

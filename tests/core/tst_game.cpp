@@ -245,7 +245,7 @@ private:
         const bool same = std::ranges::all_of(
             b.Punkt, [&](const core::PointSymbol& s) { return s.symbol == b.seriesMotif; });
         parts << QString(same ? "" : "other symbols, ") +
-                     (b.seriesMotif == 0 ? "apple tree" : "Frostel");
+                     (b.seriesMotif == core::Motif::AppleTree ? "apple tree" : "Frostel");
         return parts.join("; ");
     }
 
