@@ -89,6 +89,21 @@
     </message>
 </context>
 <context>
+    <name>BoardView</name>
+    <message>
+        <source>Start game</source>
+        <translation>Spiel starten</translation>
+    </message>
+    <message>
+        <source>End game</source>
+        <translation>Spiel beenden</translation>
+    </message>
+    <message>
+        <source>Tip</source>
+        <translation>Tipp</translation>
+    </message>
+</context>
+<context>
     <name>Game</name>
     <message>
         <source>File %1 not found!</source>
@@ -337,18 +352,6 @@
     <message>
         <source>next word</source>
         <translation>nächstes Wort</translation>
-    </message>
-    <message>
-        <source>Start game</source>
-        <translation>Spiel starten</translation>
-    </message>
-    <message>
-        <source>End game</source>
-        <translation>Spiel beenden</translation>
-    </message>
-    <message>
-        <source>Tip</source>
-        <translation>Tipp</translation>
     </message>
 </context>
 <context>

@@ -133,6 +133,15 @@ void Game::NeuesWort()
     wordOpen_ = true;
 }
 
+void Game::placeFields(const std::vector<QPoint>& places)
+{
+    for (size_t i = 0; i < places.size() && i < board.Feld.size(); ++i) {
+        if (!board.Feld[i].loaded) continue;
+        board.Feld[i].Left = places[i].x();
+        board.Feld[i].Top = places[i].y();
+    }
+}
+
 void Game::WoerterLaden()
 {
     List1.clear();

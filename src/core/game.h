@@ -4,8 +4,10 @@
 #include "core/toolkit.h"
 
 #include <QCoreApplication>
+#include <QPoint>
 #include <deque>
 #include <functional>
+#include <vector>
 
 namespace core {
 
@@ -85,6 +87,9 @@ public:
     void Warten(double seconds);
     void WoerterLaden();
     void MotivSetzen();
+    // The places, in twips, the window's layout gives the word's fields (index 0 the
+    // pattern); a field that comes or goes while a word is drawn keeps its own.
+    void placeFields(const std::vector<QPoint>& places);
     // Cuts a caption to the label's width in steps of one character and a ".".
     QString shortenCaption(QString caption);
 

@@ -1,5 +1,4 @@
-// The main window as a view of the game: its pictures, the fields of the word, the scoreboard.
-#include "mainwindow/main_window.h"
+#include "mainwindow/board_view.h"
 
 #include "ui_main_window.h"
 #include "widgets/picture_button.h"
@@ -40,11 +39,42 @@ QAccessibleInterface* tileFactory(const QString& className, QObject* object)
     return new TileAccessible(static_cast<QWidget*>(object));
 }
 
+void moveTwips(QWidget* w, long long left, long long top)
+{
+    w->move(widgets::twipsToPixels(double(left)), widgets::twipsToPixels(double(top)));
+}
+
 } // namespace
 
-void MainWindow::loadPictures()
+BoardView::BoardView(Ui::MainWindow& ui, const core::Game& game, qreal devicePixelRatio)
+    : ui_(ui), game_(game), dpr_(devicePixelRatio)
 {
-    const qreal dpr = devicePixelRatioF();
+    QWidget* window = ui_.client->window();
+    for (int i = 0; i < core::kTiles; ++i)
+        alpha_[i] = window->findChild<QLabel*>(QStringLiteral("alpha_%1").arg(i));
+    for (int i = 0; i < core::kStages; ++i)
+        B_Folge_[i] = window->findChild<QLabel*>(QStringLiteral("B_Folge_%1").arg(i));
+    picButs_ = {ui_.PicBut_0, ui_.PicBut_1, ui_.PicBut_2};
+    Spieler_[0] = ui_.Spieler_0;
+    Punkt_[0] = ui_.Punkt_0;
+    Feld_.push_back(ui_.Feld_0);
+    loadPictures(dpr_);
+    notice_ = new widgets::SpokenNotice(ui_.client);
+}
+
+void BoardView::fitToPanel()
+{
+    const double panelWidth = widgets::pixelsToTwips(ui_.Picture1->width());
+    if (panelWidth != kPicture1Width) {
+        const float factor = float(panelWidth / kPicture1Width);
+        for (int i = 0; i < core::kLetters; ++i)
+            alpha_[i]->move(int(alpha_[i]->x() * factor), int(alpha_[i]->y() * factor));
+    }
+    B_Folge_[0]->resize(B_Folge_[1]->size());
+}
+
+void BoardView::loadPictures(qreal dpr)
+{
     // Before any tile is named: naming makes its interface.
     static const bool factory = (QAccessible::installFactory(tileFactory), true);
     Q_UNUSED(factory);
@@ -58,24 +88,24 @@ void MainWindow::loadPictures()
     const QString names[3] = {tr("Start game"), tr("End game"), tr("Tip")};
     for (int i = 0; i < 3; ++i) picButs_[i]->setAccessibleName(names[i]);
     covered_ = widgets::picture(QStringLiteral("feld0"), dpr);
-    ui_->Feld_0->setPixmap(covered_);
-    ui_->Picture1->setPixmap(widgets::picture(QStringLiteral("picture1"), dpr));
+    ui_.Feld_0->setPixmap(covered_);
+    ui_.Picture1->setPixmap(widgets::picture(QStringLiteral("picture1"), dpr));
     symbols_ = {widgets::picture(QStringLiteral("symbol0"), dpr),
                 widgets::picture(QStringLiteral("symbol1"), dpr)};
-    ui_->Symbol_0->setPixmap(symbols_[0]);
-    ui_->Symbol_1->setPixmap(symbols_[1]);
-    ui_->Punkt_0->setPixmap(widgets::picture(QStringLiteral("punkt0"), dpr));
+    ui_.Symbol_0->setPixmap(symbols_[0]);
+    ui_.Symbol_1->setPixmap(symbols_[1]);
+    ui_.Punkt_0->setPixmap(widgets::picture(QStringLiteral("punkt0"), dpr));
     shownSymbol_[0] = core::Motif::Frostel;
     for (int i = 0; i < 3; ++i)
         picButs_[i]->setPicture(widgets::picture(QStringLiteral("picbut%1").arg(i), dpr));
-    QPalette pal = ui_->PicBut_3->palette();
+    QPalette pal = ui_.PicBut_3->palette();
     pal.setColor(QPalette::Button, QColor(0, 128, 128));
     pal.setColor(QPalette::ButtonText, Qt::white);
-    ui_->PicBut_3->setPalette(pal);
-    ui_->PicBut_3->setAutoFillBackground(true);
+    ui_.PicBut_3->setPalette(pal);
+    ui_.PicBut_3->setAutoFillBackground(true);
 }
 
-void MainWindow::syncFields()
+void BoardView::syncFields()
 {
     const auto& fields = game_.board.Feld;
     for (size_t i = fields.size(); i < Feld_.size(); ++i) delete Feld_[i];
@@ -92,8 +122,8 @@ void MainWindow::syncFields()
         if (i >= Feld_.size()) Feld_.resize(i + 1, nullptr);
         QLabel*& label = Feld_[i];
         if (!label) {
-            label = new QLabel(ui_->client);
-            label->resize(ui_->Feld_0->size());
+            label = new QLabel(ui_.client);
+            label->resize(ui_.Feld_0->size());
             label->setPixmap(covered_);
             label->setProperty("picture", -1);
         }
@@ -110,11 +140,10 @@ void MainWindow::syncFields()
     }
 }
 
-void MainWindow::sync()
+void BoardView::sync()
 {
-    if (unloaded_) return;
     syncTiles();
-    syncSeries();
+    syncSeries(dpr_);
     syncPlayers();
     syncPoints();
     syncFields();
@@ -122,7 +151,7 @@ void MainWindow::sync()
     announce();
 }
 
-void MainWindow::announce()
+void BoardView::announce()
 {
     const Seen now = Announcer::look(game_);
     const QStringList news = Announcer::changes(heard_, now, game_);
@@ -130,7 +159,7 @@ void MainWindow::announce()
     if (!news.isEmpty()) notice_->say(news);
 }
 
-void MainWindow::syncTiles()
+void BoardView::syncTiles()
 {
     for (int i = 0; i < core::kTiles; ++i) {
         const core::Tile& t = game_.board.alpha[i];
@@ -139,7 +168,7 @@ void MainWindow::syncTiles()
     }
 }
 
-void MainWindow::syncSeries()
+void BoardView::syncSeries(qreal dpr)
 {
     const core::Board& b = game_.board;
     if (b.seriesMotif && b.seriesMotif != shownSeries_) {
@@ -151,7 +180,7 @@ void MainWindow::syncSeries()
                                                                 : QStringLiteral("eisfigur%1");
     for (int s = 0; s < core::kStages; ++s) {
         if (b.B_Folge_Visible[s] && !stageLoaded_[s] && shownSeries_) {
-            B_Folge_[s]->setPixmap(widgets::picture(stem.arg(s), devicePixelRatioF()));
+            B_Folge_[s]->setPixmap(widgets::picture(stem.arg(s), dpr));
             stageLoaded_[s] = true;
         } else if (!b.B_Folge_Visible[s] && stageLoaded_[s]) {
             B_Folge_[s]->clear();
@@ -168,19 +197,19 @@ void MainWindow::syncSeries()
     }
 }
 
-void MainWindow::syncPlayers()
+void BoardView::syncPlayers()
 {
     for (int i = 0; i < core::kPlayers; ++i) {
         const core::PlayerLabel& p = game_.board.Spieler[i];
         if (!p.loaded) continue;
         QLabel*& label = Spieler_[i];
         if (!label) {
-            label = new QLabel(ui_->client);
-            label->setFont(ui_->Spieler_0->font());
-            label->setFrameStyle(ui_->Spieler_0->frameStyle());
-            label->setAlignment(ui_->Spieler_0->alignment());
+            label = new QLabel(ui_.client);
+            label->setFont(ui_.Spieler_0->font());
+            label->setFrameStyle(ui_.Spieler_0->frameStyle());
+            label->setAlignment(ui_.Spieler_0->alignment());
             label->setAutoFillBackground(true);
-            label->resize(ui_->Spieler_0->size());
+            label->resize(ui_.Spieler_0->size());
         }
         moveTwips(label, p.Left, p.Top);
         label->setText(p.Caption);
@@ -193,15 +222,15 @@ void MainWindow::syncPlayers()
     }
 }
 
-void MainWindow::syncPoints()
+void BoardView::syncPoints()
 {
     for (int k = 0; k < core::kSymbols; ++k) {
         const core::PointSymbol& s = game_.board.Punkt[k];
         if (!s.loaded) continue;
         QLabel*& label = Punkt_[k];
         if (!label) {
-            label = new QLabel(ui_->client);
-            label->resize(ui_->Punkt_0->size());
+            label = new QLabel(ui_.client);
+            label->resize(ui_.Punkt_0->size());
         }
         moveTwips(label, s.Left, s.Top);
         if (shownSymbol_[k] != s.symbol) {
@@ -212,54 +241,31 @@ void MainWindow::syncPoints()
     }
 }
 
-void MainWindow::syncCommands()
+void BoardView::syncCommands()
 {
     const core::Board& b = game_.board;
-    ui_->tip->setEnabled(b.tip_Enabled);
-    ui_->weiter->setEnabled(b.weiter_Enabled);
+    ui_.tip->setEnabled(b.tip_Enabled);
+    ui_.weiter->setEnabled(b.weiter_Enabled);
     for (int i = 0; i < 3; ++i) picButs_[i]->setVisible(b.PicBut_Visible[i]);
-    ui_->PicBut_3->setVisible(b.PicBut_Visible[3]);
+    ui_.PicBut_3->setVisible(b.PicBut_Visible[3]);
 }
 
-QLabel* MainWindow::fieldLabel(int i) const
+QLabel* BoardView::fieldLabel(int i) const
 {
     return i >= 0 && size_t(i) < Feld_.size() ? Feld_[i] : nullptr;
 }
 
-QWidget* MainWindow::picBut(int i) const
+QWidget* BoardView::picBut(int i) const
 {
-    return i >= 0 && i < 3 ? static_cast<QWidget*>(picButs_[i]) : ui_->PicBut_3;
+    return i >= 0 && i < 3 ? static_cast<QWidget*>(picButs_[i]) : ui_.PicBut_3;
 }
 
-void MainWindow::resizeEvent(QResizeEvent* event)
+void BoardView::arrange(const Layout& l)
 {
-    QMainWindow::resizeEvent(event);
-    if (windowState() & Qt::WindowMinimized) return;
-    Anordnen();
-}
-
-void MainWindow::moveTwips(QWidget* w, long long left, long long top)
-{
-    w->move(widgets::twipsToPixels(double(left)), widgets::twipsToPixels(double(top)));
-}
-
-void MainWindow::Anordnen()
-{
-    fitFrame();
-    const QRect outer = frameGeometry();
-    const Layout l =
-        layoutFor(widgets::pixelsToTwips(outer.width()), widgets::pixelsToTwips(outer.height()),
-                  game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
     for (QLabel* b : B_Folge_) moveTwips(b, l.bFolge.left, l.bFolge.top);
     for (int i = 0; i < 3; ++i) moveTwips(picButs_[i], l.picBut[i].left, l.picBut[i].top);
-    moveTwips(ui_->Picture1, l.picture1.left, l.picture1.top);
-    auto& fields = game_.board.Feld;
-    for (size_t i = 0; i < l.feld.size() && i < fields.size(); ++i) {
-        if (!fields[i].loaded) continue; // fields come and go while a word is drawn
-        fields[i].Left = int(l.feld[i].left);
-        fields[i].Top = int(l.feld[i].top);
-    }
-    moveTwips(ui_->PicBut_3, l.picBut3.left, l.picBut3.top);
+    moveTwips(ui_.Picture1, l.picture1.left, l.picture1.top);
+    moveTwips(ui_.PicBut_3, l.picBut3.left, l.picBut3.top);
     syncFields();
 }
 

@@ -5,11 +5,10 @@
 #include "mainwindow/help_window.h"
 #include "settings/options_window.h"
 #include "ui_main_window.h"
-#include "widgets/picture_button.h"
 #include "widgets/pictures.h"
-#include "widgets/spoken_notice.h"
 #include "widgets/twips.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -33,16 +32,7 @@ MainWindow::MainWindow(Setup setup)
     ui_->client->setAutoFillBackground(true);
     setMinimumSize(kDesignOuter.width(), kDesignOuter.height());
 
-    for (int i = 0; i < core::kTiles; ++i)
-        alpha_[i] = findChild<QLabel*>(QStringLiteral("alpha_%1").arg(i));
-    for (int i = 0; i < core::kStages; ++i)
-        B_Folge_[i] = findChild<QLabel*>(QStringLiteral("B_Folge_%1").arg(i));
-    picButs_ = {ui_->PicBut_0, ui_->PicBut_1, ui_->PicBut_2};
-    Spieler_[0] = ui_->Spieler_0;
-    Punkt_[0] = ui_->Punkt_0;
-    Feld_.push_back(ui_->Feld_0);
-    loadPictures();
-    notice_ = new widgets::SpokenNotice(ui_->client);
+    board_ = std::make_unique<BoardView>(*ui_, game_, devicePixelRatioF());
 
     tk_.setMainWindow(this);
     tk_.beforeEvents = [this] { sync(); };
@@ -64,11 +54,9 @@ MainWindow::MainWindow(Setup setup)
     const std::array<QAction*, 3> help{ui_->hilfe_0, ui_->hilfe_1, ui_->hilfe_2};
     for (int i = 0; i < 3; ++i)
         connect(help[i], &QAction::triggered, this, [this, i] { hilfe_Click(i); });
-    for (int i = 0; i < 3; ++i)
-        connect(picButs_[i], &QAbstractButton::clicked, this,
+    for (int i = 0; i < 4; ++i)
+        connect(static_cast<QAbstractButton*>(board_->picBut(i)), &QAbstractButton::clicked, this,
                 [this, i] { command([this, i] { game_.picBut(i); }); });
-    connect(ui_->PicBut_3, &QAbstractButton::clicked, this,
-            [this] { command([this] { game_.picBut(3); }); });
     // Keys reach the window before its controls, wherever the focus stands.
     qApp->installEventFilter(this);
 }
@@ -82,6 +70,11 @@ MainWindow::~MainWindow()
 }
 
 // --- start-up and shutdown --------------------------------------------------------------
+
+void MainWindow::sync()
+{
+    if (!unloaded_) board_->sync();
+}
 
 void MainWindow::setCaptions()
 {
@@ -103,14 +96,7 @@ void MainWindow::Form_Load()
     // The about window, loaded as the splash, gives this window its title.
     if (setup_.splashMs > 0) about::InfoWindow::splash(this, setup_.splashMs);
     else about::InfoWindow load(this); // loaded and unloaded at once: the title only
-    // A panel that is not 9000 twips wide carries its tiles to scale.
-    const double panelWidth = widgets::pixelsToTwips(ui_->Picture1->width());
-    if (panelWidth != kPicture1Width) {
-        const float factor = float(panelWidth / kPicture1Width);
-        for (int i = 0; i < core::kLetters; ++i)
-            alpha_[i]->move(int(alpha_[i]->x() * factor), int(alpha_[i]->y() * factor));
-    }
-    B_Folge_[0]->resize(B_Folge_[1]->size());
+    board_->fitToPanel();
     const int16_t state = restorePlace();
     // The options window loads after the counts and before the rest of the options.
     settings::readCounts(profile_, game_.g);
@@ -198,9 +184,9 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonRelease) {
         for (int i = 0; i < core::kLetters; ++i) {
-            if (watched == alpha_[i]) {
+            if (watched == board_->tileLabel(i)) {
                 auto* me = static_cast<QMouseEvent*>(event);
-                if (alpha_[i]->rect().contains(me->position().toPoint())) tileClicked(i);
+                if (board_->tileLabel(i)->rect().contains(me->position().toPoint())) tileClicked(i);
                 return true;
             }
         }

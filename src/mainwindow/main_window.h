@@ -1,15 +1,14 @@
 #pragma once
-// The main window: draws what the game holds, turns clicks, keys and menu entries into the
-// game's commands, keeps its controls in place, and starts and ends the program.
+// The main window: starts and ends the program, turns clicks, keys and menu entries into the
+// game's commands, keeps itself and the board in place; the board draws what the game holds.
 #include "core/game.h"
-#include "mainwindow/announcements.h"
+#include "mainwindow/board_view.h"
 #include "mainwindow/layout.h"
 #include "platform/qt_toolkit.h"
 #include "settings/profile.h"
 #include "settings/stored_settings.h"
 
 #include <QMainWindow>
-#include <QPixmap>
 #include <array>
 #include <functional>
 #include <memory>
@@ -20,10 +19,6 @@ class QLabel;
 namespace Ui {
 class MainWindow;
 }
-namespace widgets {
-class PictureButton;
-class SpokenNotice;
-} // namespace widgets
 namespace settings {
 class OptionsHost;
 }
@@ -66,12 +61,13 @@ public:
     std::function<void()> showOptions;
 
     // For tests.
-    QLabel* tileLabel(int i) const { return alpha_[i]; }
-    QLabel* fieldLabel(int i) const;
-    QLabel* pictureLabel(int i) const { return B_Folge_[i]; }
-    QWidget* picBut(int i) const;
-    QLabel* playerLabel(int i) const { return Spieler_[i]; }
-    QLabel* pointLabel(int i) const { return Punkt_[i]; }
+    const BoardView& board() const { return *board_; }
+    QLabel* tileLabel(int i) const { return board_->tileLabel(i); }
+    QLabel* fieldLabel(int i) const { return board_->fieldLabel(i); }
+    QLabel* pictureLabel(int i) const { return board_->pictureLabel(i); }
+    QWidget* picBut(int i) const { return board_->picBut(i); }
+    QLabel* playerLabel(int i) const { return board_->playerLabel(i); }
+    QLabel* pointLabel(int i) const { return board_->pointLabel(i); }
 
 protected:
     void resizeEvent(QResizeEvent* event) override; // Form_Resize
@@ -88,20 +84,11 @@ private:
     void setCaptions();
     // Place and size as stored; returns the stored state, which the show then sets.
     int16_t restorePlace();
-    void loadPictures();
-    void syncTiles();
-    void syncSeries();
-    void syncPlayers();
-    void syncPoints();
-    void syncFields();
-    void syncCommands();
-    void announce();
     void setOuterSize(int widthTwips, int heightTwips);
     void fitFrame();
     void storePlace();
     void unloadMainWindow();
     void Form_Unload();
-    void moveTwips(QWidget* w, long long left, long long top);
 
     Setup setup_;
     std::unique_ptr<Ui::MainWindow> ui_;
@@ -109,24 +96,7 @@ private:
     core::Game game_{tk_};
     settings::Profile profile_;
 
-    std::array<QLabel*, core::kTiles> alpha_{};
-    std::array<QLabel*, core::kStages> B_Folge_{};
-    std::array<QLabel*, core::kPlayers> Spieler_{};
-    std::array<QLabel*, core::kSymbols> Punkt_{};
-    std::array<widgets::PictureButton*, 3> picButs_{};
-    std::vector<QLabel*> Feld_; // Feld_[0] is the pattern
-
-    std::array<QPixmap, 2> symbols_;
-    std::array<QPixmap, core::kTiles> tilePictures_;
-    QPixmap covered_;
-
-    // What is on show, so a redraw touches only what changed.
-    std::optional<core::Motif> shownSeries_;
-    std::array<bool, core::kStages> stageLoaded_{};
-    std::array<std::optional<core::Motif>, core::kSymbols> shownSymbol_{};
-    int shownHeight_ = -1;
-    Seen heard_; // what a screen reader was last told of
-    widgets::SpokenNotice* notice_ = nullptr;
+    std::unique_ptr<BoardView> board_;
 
     HelpWindow* help_ = nullptr;
     settings::OptionsHost* options_ = nullptr;
@@ -135,7 +105,6 @@ private:
     // Started maximised, the corner the window takes when first restored.
     std::optional<QPoint> cornerWhenRestored_;
     bool unloaded_ = false;
-    bool loaded_ = false;
 };
 
 } // namespace mainwindow

@@ -94,6 +94,26 @@ void MainWindow::storePlace()
     settings::writeWindowPlace(profile_, place);
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (windowState() & Qt::WindowMinimized) return;
+    Anordnen();
+}
+
+void MainWindow::Anordnen()
+{
+    fitFrame();
+    const QRect outer = frameGeometry();
+    const Layout l =
+        layoutFor(widgets::pixelsToTwips(outer.width()), widgets::pixelsToTwips(outer.height()),
+                  game_.board.B_Folge0_Height, int(game_.g.Wort.size()));
+    std::vector<QPoint> fields;
+    for (const Twips& f : l.feld) fields.emplace_back(int(f.left), int(f.top));
+    game_.placeFields(fields);
+    board_->arrange(l);
+}
+
 void MainWindow::moveEvent(QMoveEvent* event)
 {
     QMainWindow::moveEvent(event);
