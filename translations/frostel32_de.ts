@@ -269,7 +269,7 @@
     </message>
 </context>
 <context>
-    <name>mainwindow::HelpWindow</name>
+    <name>help::HelpWindow</name>
     <message>
         <source>Frostel32 Help</source>
         <translation>Frostel32 Hilfe</translation>

@@ -2,7 +2,7 @@
 
 #include "about/info_window.h"
 #include "editor/vocabulary_editor.h"
-#include "mainwindow/help_window.h"
+#include "help/help_window.h"
 #include "settings/options_window.h"
 #include "ui_main_window.h"
 #include "widgets/pictures.h"
@@ -161,7 +161,7 @@ void MainWindow::hilfe_Click(int Index)
 {
     command([this, Index] {
         game_.run([this, Index] {
-            if (!help_) help_ = new HelpWindow(this);
+            if (!help_) help_ = new help::HelpWindow(this);
             switch (Index) {
             case 0: help_->showContents(); break;
             case 1:

@@ -23,9 +23,11 @@ namespace settings {
 class OptionsHost;
 }
 
-namespace mainwindow {
-
+namespace help {
 class HelpWindow;
+}
+
+namespace mainwindow {
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -98,7 +100,7 @@ private:
 
     std::unique_ptr<BoardView> board_;
 
-    HelpWindow* help_ = nullptr;
+    help::HelpWindow* help_ = nullptr;
     settings::OptionsHost* options_ = nullptr;
     QSize outerWanted_; // the outer size asked for, in pixels, until the frame is known
     QSize lastFrame_;

@@ -3,7 +3,7 @@
 // on one access key, English as it was.
 #include "about/info_window.h"
 #include "editor/vocabulary_editor.h"
-#include "mainwindow/help_window.h"
+#include "help/help_window.h"
 #include "platform/translations.h"
 #include "settings/options_window.h"
 #include "support/main_window_start.h"
@@ -100,7 +100,7 @@ class ShippedTest : public QObject, support::MainWindowStart {
         settings::OptionsHost options(w->game(), profile, w.get());
         editor::VocabularyEditor editor(w->game().g, w->game().List1, w->toolkit());
         about::InfoWindow info(nullptr);
-        mainwindow::HelpWindow help;
+        help::HelpWindow help;
         Texts all;
         for (QWidget* window :
              std::initializer_list<QWidget*>{w.get(), options.window(), &editor, &info, &help})
@@ -168,7 +168,7 @@ private slots:
     {
         QFETCH(QLocale, locale);
         QFETCH(QString, folder);
-        QCOMPARE(mainwindow::helpFolder(locale), folder);
+        QCOMPARE(help::helpFolder(locale), folder);
         const QStringList pages = QDir(folder).entryList({"*.html"}, QDir::Files);
         QVERIFY(pages.size() >= 5);
         QCOMPARE(pages, QDir(":/help").entryList({"*.html"}, QDir::Files));
@@ -187,7 +187,7 @@ private slots:
         }
         // The help window searches the pages of the player's language.
         QLocale::setDefault(locale);
-        const auto hits = mainwindow::HelpWindow().find("schneemann schmilzt");
+        const auto hits = help::HelpWindow().find("schneemann schmilzt");
         QCOMPARE(hits.isEmpty(), !folder.endsWith("de/"));
         QLocale::setDefault(QLocale::c());
     }

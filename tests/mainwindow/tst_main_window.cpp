@@ -1,7 +1,7 @@
 // The real main window, offscreen and under window managers: the splash, a settings file's start,
 // a game by keys and clicks, a real key during a wait, the menus, the end, a screen reader.
 #include "about/info_window.h"
-#include "mainwindow/help_window.h"
+#include "help/help_window.h"
 #include "platform/lean_style.h"
 #include "settings/options_window.h"
 #include "support/focus_marks.h"
@@ -149,7 +149,7 @@ private slots:
         support::onNextModal<QMessageBox>([&](QMessageBox* b) {
             QFont bold = b->font();
             bold.setBold(true);
-            room = support::framed(b).width() - QFontMetrics(bold).horizontalAdvance("Yippieh!") -
+            room = b->width() - QFontMetrics(bold).horizontalAdvance("Yippieh!") -
                    4 * std::max(b->geometry().top() - b->frameGeometry().top(), 20);
             b->close();
         });
@@ -174,7 +174,7 @@ private slots:
         QVERIFY(shows(w_->pointLabel(0), "symbol1"));
         // The help menu: the contents with the search open, centred on the game; help on help.
         action("hilfe_1")->trigger();
-        auto* help = w_->findChild<mainwindow::HelpWindow*>();
+        auto* help = w_->findChild<help::HelpWindow*>();
         QVERIFY(help->currentPage() == "index.html" && help->searchField()->isVisible());
         const QPoint off = support::framed(help).center() - w_->frameGeometry().center();
         QVERIFY2(off.manhattanLength() <= 2 || support::onWayland(),
@@ -207,7 +207,7 @@ private slots:
         w_ = startWindow("[Einstellungen]\r\nSound= 0\r\n");
         QStringList unseen = support::unseenFoci(w_.get());
         action("hilfe_1")->trigger();
-        unseen << support::unseenFoci(w_->findChild<mainwindow::HelpWindow*>());
+        unseen << support::unseenFoci(w_->findChild<help::HelpWindow*>());
         support::onNextModal<settings::OptionsWindow>([&](settings::OptionsWindow* o) {
             unseen << support::unseenFoci(o);
             support::onNextModal<QDialog>([&](QDialog* editor) {

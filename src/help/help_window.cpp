@@ -1,4 +1,4 @@
-#include "mainwindow/help_window.h"
+#include "help/help_window.h"
 
 #include "platform/translations.h"
 #include "widgets/focus_ring.h"
@@ -21,7 +21,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-namespace mainwindow {
+namespace help {
 namespace {
 
 struct Page {
@@ -201,4 +201,4 @@ void HelpWindow::runSearch()
     }
 }
 
-} // namespace mainwindow
+} // namespace help

@@ -9,7 +9,7 @@ class QListWidget;
 class QTextBrowser;
 class QSplitter;
 
-namespace mainwindow {
+namespace help {
 
 // The resource folder of the help pages for a locale: German pages for German, else English.
 QString helpFolder(const QLocale& locale);
@@ -43,4 +43,4 @@ private:
     QWidget* searchPane_;
 };
 
-} // namespace mainwindow
+} // namespace help
