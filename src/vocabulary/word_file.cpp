@@ -100,12 +100,6 @@ bool ItemReader::finish()
     return true;
 }
 
-bool passesFilter(QStringView word)
-{
-    return word.size() <= kMaxWordLength && !word.contains(u'ß', Qt::CaseInsensitive) &&
-           !word.contains(u'ẞ');
-}
-
 namespace {
 
 ItemReader::Sink collector(QStringList& words)

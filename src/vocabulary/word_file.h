@@ -54,9 +54,6 @@ private:
     bool sharpS_ = false;
 };
 
-// The readers' filter: at most 20 characters and no "ß".
-bool passesFilter(QStringView word);
-
 struct ReadResult {
     QStringList words;              // the items that passed the filter, in file order
     std::optional<Failure> failure; // set when reading stopped early or never began
