@@ -107,6 +107,9 @@ grep -q $'^Width= 9600\r$' "$ini" || fail "Width not 9600 twips: $(cat -A "$ini"
 for line in 'Spieler1=Kim' 'Anzahl= 3' 'Tips= 2' 'Datei=groceries.dat'; do
     grep -q "^$line"$'\r$' "$ini" || fail "no $line in $(cat -A "$ini")"
 done
+keys=$(sed -n '/^\[Einstellungen\]/,/^\[W/s/=.*//p' "$ini" | tr '\n' ' ')
+[ "$keys" = "Anzahl Sound Anzeige Wiederholung Tips Spieler1 Spieler2 Spieler3 Spieler4 Datei Motiv " ] ||
+    fail "OK wrote its keys in another order: $keys"
 [ "$(cat "$folder/groceries.dat")" = $'yak\r' ] ||
     fail "the word was not saved: $(cat -A "$folder/groceries.dat")"
 if [ "$bin" = --installed ]; then
