@@ -226,6 +226,19 @@ private slots:
         QCOMPARE(unseen, QStringList());
     }
 
+    // The real draw spreads evenly over 0 up to below 1, so a list's last words come up too.
+    void theRealDrawReachesBothEnds()
+    {
+        w_ = startWindow();
+        double low = 1, high = 0;
+        for (int i = 0; i < 2000; ++i) {
+            const double r = w_->toolkit().random();
+            QVERIFY(r >= 0 && r < 1);
+            low = std::min(low, r), high = std::max(high, r);
+        }
+        QVERIFY2(low < 0.01 && high > 0.99, qPrintable(QString("%1 to %2").arg(low).arg(high)));
+    }
+
     // The game's queue is the core's; here a real X key press meets the toolkit's wait.
     void aKeyDuringAWaitIsPlayedAfterIt()
     {

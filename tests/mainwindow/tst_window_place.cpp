@@ -1,5 +1,6 @@
 // The main window's place, size and state, offscreen and under a window manager: as stored,
 // within the screen, kept at the end, and the smallest size it allows.
+#include "mainwindow/layout.h"
 #include "mainwindow/screen_fit.h"
 #include "support/main_window_start.h"
 
@@ -116,6 +117,19 @@ private slots:
             QVERIFY2(lines[i].startsWith(keys[i] + '=') &&
                          qAbs(lines[i].section('=', 1).trimmed().toInt() - want[i]) < 15,
                      qPrintable(lines.join(',')));
+    }
+
+    // At the least size with a five-letter word: the picture at 0.6 of the width, the buttons
+    // in the strip right of it, the panel and the word centred, the next-word button below.
+    void layoutAtTheLeastSize()
+    {
+        const mainwindow::Layout l = mainwindow::layoutFor(9600, 6975, 2400, 5);
+        QString at;
+        for (const mainwindow::Twips& t : {l.bFolge, l.picBut[0], l.picBut[2], l.picture1,
+                                           l.feld[0], l.feld[1], l.feld[5], l.picBut3})
+            at += QString("%1,%2 ").arg(t.left).arg(t.top);
+        QCOMPARE(at,
+                 "5760,360 8605,480 8605,2160 300,4507 3225,3273 3675,3273 5475,3273 3802,4073 ");
     }
 
     void fitsTheScreen_data()
