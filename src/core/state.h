@@ -36,28 +36,38 @@ enum class Motif { AppleTree = 0, Frostel = 1 };
 // The motif a stored number stands for: only 0 is the apple tree.
 inline Motif motifOf(int motivNr) { return motivNr == 0 ? Motif::AppleTree : Motif::Frostel; }
 
+// The options a first start plays with: the game's state starts with them, and the settings
+// file reads them for a key it lacks.
+namespace defaults {
+constexpr int kPlayerCount = 4;
+constexpr int kTips = 3;
+constexpr Motif kMotif = Motif::Frostel;
+constexpr int kSound = 1;        // on
+constexpr int kShowSolution = 1; // on
+} // namespace defaults
+
 // The module of shared state every window reaches. The German names are the game's own
 // (README.md has them all in a table).
 struct Global {
-    QString Wort;           // "word": the hidden word in capitals; empty before the first
-    int16_t Fehler = 0;     // "misses" in this word, 0 to 9; also the picture's stage
-    int16_t AnzSpieler = 4; // "number of players", 1 to 4
-    int16_t AnzTips = 3;    // "number of tips" allowed a word, 0 to 3
-    int16_t AktSpieler = 0; // "current player": the row at turn, 0-based
-    int16_t Treffer = 0;    // "hits": fields uncovered in this word
-    std::array<int16_t, kPlayers> Punkte{}; // "points" of each player; 8 win
-    int16_t TipZaehler = 0;                 // "tip counter": tips taken in this word
-    bool EinstGeaendert = false;            // "options changed" so that a new game must start
-    bool SpielLaeuft = false;               // "game running": a start asks before it drops the game
-    QString WortDatei;      // "word file": the vocabulary's file name in the working folder
-    int16_t MotivNr = 1;    // "motif number": 0 the apple tree, 1 the Frostel figure
+    QString Wort;       // "word": the hidden word in capitals; empty before the first
+    int16_t Fehler = 0; // "misses" in this word, 0 to 9; also the picture's stage
+    int16_t AnzSpieler = defaults::kPlayerCount; // "number of players", 1 to 4
+    int16_t AnzTips = defaults::kTips;           // "number of tips" allowed a word, 0 to 3
+    int16_t AktSpieler = 0;                      // "current player": the row at turn, 0-based
+    int16_t Treffer = 0;                         // "hits": fields uncovered in this word
+    std::array<int16_t, kPlayers> Punkte{};      // "points" of each player; 8 win
+    int16_t TipZaehler = 0;                      // "tip counter": tips taken in this word
+    bool EinstGeaendert = false;                 // "options changed" so that a new game must start
+    bool SpielLaeuft = false; // "game running": a start asks before it drops the game
+    QString WortDatei;        // "word file": the vocabulary's file name in the working folder
+    int16_t MotivNr = int16_t(defaults::kMotif); // "motif number": 0 the apple tree, 1 the Frostel
     bool Geaendert = false; // "changed": the editor's list differs from its file
 };
 
 // The options that live in the options window's controls, read by the game at each use.
 struct Options {
-    int Sound = 1;   // on when 1
-    int Anzeige = 1; // "display": show the solution of a lost word when 1
+    int Sound = defaults::kSound;          // on when 1
+    int Anzeige = defaults::kShowSolution; // "display": show the solution of a lost word when 1
     // "repeat": [0] all words stay in the list, [1] only words not yet guessed
     std::array<bool, 2> wiederh{true, false};
     std::array<QString, kPlayers> Spieler_Name{"Marta", "Helene", "Matthis", "Svenja"};

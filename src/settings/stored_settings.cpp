@@ -3,81 +3,118 @@
 namespace settings {
 namespace {
 
-const QString kWindow = QStringLiteral("Window");
-const QString kSettings = QStringLiteral("Einstellungen");
+// A key of the file and what it reads as when missing.
+struct NumberKey {
+    const char* section;
+    const char* name;
+    int missing = 0;
+};
+struct TextKey {
+    const char* section;
+    const char* name;
+    const char* missing;
+    int size; // at most size - 1 characters are read
+};
 
-int16_t readShort(const Profile& profile, const QString& key, int def)
+// Every key of the file, each section's in the order they are written.
+constexpr char kWindow[] = "Window";
+constexpr NumberKey kLeft{kWindow, "Left"}; // missing: the centred place, known at the start
+constexpr NumberKey kTop{kWindow, "Top"};
+constexpr NumberKey kWidth{kWindow, "Width", WindowPlace{}.width};
+constexpr NumberKey kHeight{kWindow, "Height", WindowPlace{}.height};
+constexpr NumberKey kStatus{kWindow, "Status", WindowPlace{}.state};
+
+constexpr char kSettings[] = "Einstellungen";
+constexpr NumberKey kAnzahl{kSettings, "Anzahl", core::defaults::kPlayerCount};
+constexpr NumberKey kSound{kSettings, "Sound", core::defaults::kSound};
+constexpr NumberKey kAnzeige{kSettings, "Anzeige", core::defaults::kShowSolution};
+// -1 all words; anything else, a missing key too, only the words not guessed yet.
+constexpr NumberKey kWiederholung{kSettings, "Wiederholung", 1};
+constexpr NumberKey kTips{kSettings, "Tips", core::defaults::kTips};
+constexpr TextKey kSpieler[core::kPlayers]{{kSettings, "Spieler1", "Spieler 1", 25},
+                                           {kSettings, "Spieler2", "Spieler 2", 25},
+                                           {kSettings, "Spieler3", "Spieler 3", 25},
+                                           {kSettings, "Spieler4", "Spieler 4", 25}};
+constexpr TextKey kDatei{kSettings, "Datei", "", 255};
+constexpr NumberKey kMotiv{kSettings, "Motiv", int(core::defaults::kMotif)};
+
+int number(const Profile& profile, const NumberKey& key, int missing)
 {
-    return int16_t(profile.GetPrivateProfileInt(kSettings, key, def));
+    return profile.GetPrivateProfileInt(QString::fromLatin1(key.section),
+                                        QString::fromLatin1(key.name), missing);
 }
 
-void write(Profile& profile, const QString& section, const QString& key, double number)
+int number(const Profile& profile, const NumberKey& key)
 {
-    profile.WritePrivateProfileString(section, key, numberForm(number));
+    return number(profile, key, key.missing);
+}
+
+QString text(const Profile& profile, const TextKey& key)
+{
+    return profile.GetPrivateProfileString(QString::fromLatin1(key.section),
+                                           QString::fromLatin1(key.name),
+                                           QString::fromLatin1(key.missing), key.size);
+}
+
+void write(Profile& profile, const TextKey& key, const QString& value)
+{
+    profile.WritePrivateProfileString(QString::fromLatin1(key.section),
+                                      QString::fromLatin1(key.name), value);
+}
+
+void write(Profile& profile, const NumberKey& key, double value)
+{
+    profile.WritePrivateProfileString(QString::fromLatin1(key.section),
+                                      QString::fromLatin1(key.name), numberForm(value));
 }
 
 } // namespace
 
-int16_t readWindowState(const Profile& profile)
-{
-    return int16_t(profile.GetPrivateProfileInt(kWindow, QStringLiteral("Status"), 0));
-}
+int16_t readWindowState(const Profile& profile) { return int16_t(number(profile, kStatus)); }
 
 void readWindowPlace(const Profile& profile, WindowPlace& place, long long centreLeft,
                      long long centreTop)
 {
-    auto read = [&](const char* key, long long def) {
-        return profile.GetPrivateProfileInt(kWindow, QString::fromLatin1(key), int(def));
-    };
-    place.left = read("Left", centreLeft);
-    place.top = read("Top", centreTop);
-    place.width = read("Width", WindowPlace{}.width);
-    place.height = read("Height", WindowPlace{}.height);
+    place.left = number(profile, kLeft, int(centreLeft));
+    place.top = number(profile, kTop, int(centreTop));
+    place.width = number(profile, kWidth);
+    place.height = number(profile, kHeight);
 }
 
 void writeWindowPlace(Profile& profile, const WindowPlace& place)
 {
     if (place.state != 2) {
         if (place.placed) {
-            write(profile, kWindow, QStringLiteral("Left"), double(place.left));
-            write(profile, kWindow, QStringLiteral("Top"), double(place.top));
+            write(profile, kLeft, double(place.left));
+            write(profile, kTop, double(place.top));
         }
-        write(profile, kWindow, QStringLiteral("Width"), place.width);
-        write(profile, kWindow, QStringLiteral("Height"), place.height);
+        write(profile, kWidth, place.width);
+        write(profile, kHeight, place.height);
     }
-    write(profile, kWindow, QStringLiteral("Status"), place.state);
+    write(profile, kStatus, place.state);
 }
 
 void readCounts(const Profile& profile, core::Global& g)
 {
-    g.AnzSpieler = readShort(profile, QStringLiteral("Anzahl"), 4);
-    g.AnzTips = readShort(profile, QStringLiteral("Tips"), 3);
+    g.AnzSpieler = int16_t(number(profile, kAnzahl));
+    g.AnzTips = int16_t(number(profile, kTips));
 }
 
-QString readWordFileName(const Profile& profile)
-{
-    // The default is all blanks, which come back empty.
-    return profile.GetPrivateProfileString(kSettings, QStringLiteral("Datei"), QString(255, u' '),
-                                           255);
-}
+QString readWordFileName(const Profile& profile) { return text(profile, kDatei); }
 
 void readChoices(const Profile& profile, core::Global& g, core::Options& einst)
 {
-    g.MotivNr = readShort(profile, QStringLiteral("Motiv"), 1);
-    const bool all = readShort(profile, QStringLiteral("Wiederholung"), 1) == -1;
+    g.MotivNr = int16_t(number(profile, kMotiv));
+    const bool all = int16_t(number(profile, kWiederholung)) == -1;
     einst.wiederh = {all, !all};
-    einst.Sound = readShort(profile, QStringLiteral("Sound"), 1);
-    einst.Anzeige = readShort(profile, QStringLiteral("Anzeige"), 1);
+    einst.Sound = int16_t(number(profile, kSound));
+    einst.Anzeige = int16_t(number(profile, kAnzeige));
 }
 
 void readNames(const Profile& profile, core::Options& einst)
 {
     for (int i = 0; i < core::kPlayers; ++i) {
-        const QString n = QString::number(i + 1);
-        const QString name = profile
-                                 .GetPrivateProfileString(kSettings, QStringLiteral("Spieler") + n,
-                                                          QStringLiteral("Spieler ") + n, 25)
-                                 .trimmed();
+        const QString name = text(profile, kSpieler[i]).trimmed();
         const bool isDefault = name.size() >= 9 && name[8] >= u'1' && name[8] <= u'4';
         if (!isDefault) einst.Spieler_Name[i] = name;
     }
@@ -85,16 +122,14 @@ void readNames(const Profile& profile, core::Options& einst)
 
 void writeOptions(Profile& profile, const core::Global& g, const core::Options& einst)
 {
-    write(profile, kSettings, QStringLiteral("Anzahl"), g.AnzSpieler);
-    write(profile, kSettings, QStringLiteral("Sound"), einst.Sound);
-    write(profile, kSettings, QStringLiteral("Anzeige"), einst.Anzeige);
-    write(profile, kSettings, QStringLiteral("Wiederholung"), einst.wiederh[0] ? -1 : 0);
-    write(profile, kSettings, QStringLiteral("Tips"), g.AnzTips);
-    for (int i = 0; i < core::kPlayers; ++i)
-        profile.WritePrivateProfileString(kSettings, QStringLiteral("Spieler%1").arg(i + 1),
-                                          einst.Spieler_Name[i]);
-    profile.WritePrivateProfileString(kSettings, QStringLiteral("Datei"), g.WortDatei);
-    write(profile, kSettings, QStringLiteral("Motiv"), g.MotivNr);
+    write(profile, kAnzahl, g.AnzSpieler);
+    write(profile, kSound, einst.Sound);
+    write(profile, kAnzeige, einst.Anzeige);
+    write(profile, kWiederholung, einst.wiederh[0] ? -1 : 0);
+    write(profile, kTips, g.AnzTips);
+    for (int i = 0; i < core::kPlayers; ++i) write(profile, kSpieler[i], einst.Spieler_Name[i]);
+    write(profile, kDatei, g.WortDatei);
+    write(profile, kMotiv, g.MotivNr);
 }
 
 } // namespace settings

@@ -1,6 +1,6 @@
 #pragma once
-// Every section, key and default of the settings file: read in the order the start-up needs
-// them, written by the same code.
+// The settings file's sections and keys, read in the order the start-up needs them. Each key
+// and what it reads as when missing is named once, in a table the reading and the writing share.
 #include "core/state.h"
 #include "settings/profile.h"
 
