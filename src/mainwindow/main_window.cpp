@@ -40,8 +40,8 @@ MainWindow::MainWindow(Setup setup)
 
     // The options window loads at its first showing and then stays, hidden, as the place
     // where the player edits the live options.
-    options_ = new settings::OptionsHost(game_, profile_, this);
-    options_->openEditor = [this] { editor::showEditor(game_, tk_, options_->window()); };
+    options_ = new settings::OptionsHost(
+        game_, profile_, this, [this] { editor::showEditor(game_, tk_, options_->window()); });
     showOptions = [this] { options_->show(); };
 
     connect(ui_->start, &QAction::triggered, this, [this] { command([this] { game_.start(); }); });

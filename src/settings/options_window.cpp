@@ -30,7 +30,8 @@ constexpr QRect kRepeatFrame{2600, 650, 2600, 1300};
 
 OptionsWindow::OptionsWindow(core::Game& game, Profile& profile, const QStringList& rows,
                              bool preset, QWidget* parent)
-    : DesignDialog(parent), game_(game), profile_(profile), ui_(std::make_unique<Ui::OptionsWindow>())
+    : DesignDialog(parent), game_(game), profile_(profile),
+      ui_(std::make_unique<Ui::OptionsWindow>())
 {
     ui_->setupUi(this);
     applyDesign();
@@ -323,8 +324,9 @@ void OptionsWindow::changed(OptionChange change)
     if (!loading_ && restartsGame(change)) game_.g.EinstGeaendert = true;
 }
 
-OptionsHost::OptionsHost(core::Game& game, Profile& profile, QWidget* owner)
-    : game_(game), profile_(profile), owner_(owner)
+OptionsHost::OptionsHost(core::Game& game, Profile& profile, QWidget* owner,
+                         std::function<void()> openEditor)
+    : game_(game), profile_(profile), owner_(owner), openEditor_(std::move(openEditor))
 {
 }
 
@@ -343,9 +345,7 @@ OptionsWindow* OptionsHost::window()
     if (!loaded_) load();
     if (!window_) {
         window_ = new OptionsWindow(game_, profile_, rows_, !presetDone_, owner_);
-        window_->openEditor = [this] {
-            if (openEditor) openEditor();
-        };
+        window_->openEditor = openEditor_;
         presetDone_ = true;
     }
     return window_;

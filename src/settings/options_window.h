@@ -91,7 +91,10 @@ private:
 // its controls made at the first showing, discarded by its close box and loaded anew then.
 class OptionsHost {
 public:
-    OptionsHost(core::Game& game, Profile& profile, QWidget* owner);
+    // `openEditor` opens the vocabulary editor over the window (the editor lives beside
+    // this folder, so the main window hands it in).
+    OptionsHost(core::Game& game, Profile& profile, QWidget* owner,
+                std::function<void()> openEditor);
     ~OptionsHost();
 
     // What loading the window decides: the vocabulary files of the working folder as they are
@@ -103,12 +106,11 @@ public:
     // The window, made if it is not.
     OptionsWindow* window();
 
-    std::function<void()> openEditor;
-
 private:
     core::Game& game_;
     Profile& profile_;
     QWidget* owner_;
+    std::function<void()> openEditor_;
     QPointer<OptionsWindow> window_;
     QStringList rows_;
     bool loaded_ = false;

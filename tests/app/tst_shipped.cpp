@@ -97,7 +97,7 @@ class ShippedTest : public QObject, support::MainWindowStart {
     {
         auto w = startWindow("[Einstellungen]\r\nSound= 0\r\n");
         settings::Profile profile(ini_);
-        settings::OptionsHost options(w->game(), profile, w.get());
+        settings::OptionsHost options(w->game(), profile, w.get(), {});
         editor::VocabularyEditor editor(w->game().g, w->game().List1, w->toolkit());
         about::InfoWindow info(nullptr);
         help::HelpWindow help;
