@@ -171,7 +171,10 @@ private slots:
         });
         QTest::keyClicks(w_.get(), "le");
         QVERIFY(held && !weiter->isEnabled() && !w_->picBut(3)->isVisible());
-        QVERIFY(shows(w_->pointLabel(0), "symbol1"));
+        // The next word too, by its button: every point shows the motif's symbol.
+        support::whenEnabled(weiter, [&] { QTest::mouseClick(w_->picBut(3), Qt::LeftButton); });
+        QTest::keyClicks(w_.get(), "aple");
+        QVERIFY(shows(w_->pointLabel(0), "symbol1") && shows(w_->pointLabel(1), "symbol1"));
         // The help menu: the contents with the search open, centred on the game; help on help.
         action("hilfe_1")->trigger();
         auto* help = w_->findChild<help::HelpWindow*>();
