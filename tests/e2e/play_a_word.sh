@@ -127,6 +127,7 @@ for sig in TERM HUP INT; do
     win=$(window "Frostel32 v2.31") || exit 1
     sleep 3 # past the splash
     xdotool windowmove --sync "$win" 150 120
+    sleep 0.5 # the game hears of the move from the X server a moment after it is done
     kill -$sig $gpid && kill -$sig $gpid
     wait $gpid; status=$?
     [ $status -eq 0 ] || fail "SIG$sig: exit status $status"
