@@ -21,9 +21,9 @@ int main(int argc, char** argv)
     platform::installTranslators();
     // Word files are found by bare name in the working folder, sounds there or where installed.
     app::catchTheSessionsEnd();
-    const app::Folders folders = app::enterWorkingFolder();
+    const QString sounds = app::enterWorkingFolder();
     mainwindow::MainWindow window;
-    window.toolkit().soundFolder = folders.sounds;
+    window.toolkit().soundFolder = sounds;
     window.Form_Load();
     app::endWithTheSession([&window] { window.close(); });
 #ifdef __GLIBC__

@@ -48,25 +48,25 @@ void bringUpToDate(const QDir& shipped, const QString& own)
     }
     // The player's guide is the game's, in the player's language.
     const QString readme = QStringLiteral("README.TXT");
-    if (shipped.exists(readme) &&
-        contents(own + '/' + readme) != contents(shipped.filePath(readme)))
-        vocabulary::writeWhole(own + '/' + readme, contents(shipped.filePath(readme)));
+    const QByteArray guide = contents(shipped.filePath(readme));
+    if (shipped.exists(readme) && contents(own + '/' + readme) != guide)
+        vocabulary::writeWhole(own + '/' + readme, guide);
 }
 
 } // namespace
 
-Folders enterWorkingFolder()
+QString enterWorkingFolder()
 {
     const QDir exe(QCoreApplication::applicationDirPath());
     if (exe.exists(QStringLiteral("frostel.dat")) || exe.exists(QStringLiteral("frostl0.wav"))) {
         QDir::setCurrent(exe.path());
-        return {exe.path(), exe.path()};
+        return exe.path();
     }
     const QDir installed(exe.filePath(QStringLiteral(FROSTEL_DATA_FROM_BINDIR)));
     const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (own.isEmpty() || !QDir().mkpath(own)) {
         QDir::setCurrent(installed.path()); // read-only, but the game plays
-        return {installed.path(), installed.path()};
+        return installed.path();
     }
     // Word files in the player's language where there are such; the sounds stay where
     // they were installed.
@@ -75,7 +75,7 @@ Folders enterWorkingFolder()
         words.cd(QStringLiteral("de"));
     bringUpToDate(words, own);
     QDir::setCurrent(own);
-    return {own, installed.path()};
+    return installed.path();
 }
 
 } // namespace app
