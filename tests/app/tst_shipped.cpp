@@ -18,8 +18,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QRegularExpression>
-#include <QTextBlock>
-#include <QTextDocument>
 #include <QtEndian>
 #include <map>
 
@@ -72,19 +70,13 @@ const QStringList kSame = QString("Marta|Helene|Matthis|Svenja|Frostel32 v2.31|F
                                   "nächstes &Wort|&Benutzen der Hilfe|&Info...|frostel.dat|zoo.dat")
                               .split('|');
 
-// The links of a help page as the help window's parser sees them, and its anchors as "=name".
+// The links of a help page, and its anchors as "=name".
 QStringList linksOf(const QString& file)
 {
-    QTextDocument doc;
-    doc.setHtml(QString::fromUtf8(readAll(file)));
+    static const QRegularExpression link("<a (href|name)=\"([^\"]+)\"");
     QStringList links;
-    for (QTextBlock block = doc.begin(); block.isValid(); block = block.next())
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextCharFormat format = it.fragment().charFormat();
-            links << format.anchorHref();
-            for (const QString& name : format.anchorNames()) links << '=' + name;
-        }
-    links.removeAll(QString());
+    for (const auto& m : link.globalMatch(QString::fromUtf8(readAll(file))))
+        links << (m.captured(1) == "name" ? "=" : "") + m.captured(2);
     return links;
 }
 
@@ -176,13 +168,11 @@ private slots:
             QVERIFY2(page == "index.html" || linksOf(folder + "index.html").contains(page),
                      qPrintable(page));
             for (const QString& href : linksOf(folder + page)) {
-                const QUrl url(href);
-                const QString file = ':' + QUrl("qrc" + folder + page).resolved(url).path();
-                if (href.startsWith('=')) continue;
-                QVERIFY2(url.scheme().isEmpty() && QFile::exists(file),
-                         qPrintable(page + ": " + href));
-                QVERIFY2(!url.hasFragment() || linksOf(file).contains('=' + url.fragment()),
-                         qPrintable(href));
+                const QString file = folder + href.section('#', 0, 0), at = href.section('#', 1);
+                QVERIFY2(
+                    href.startsWith('=') ||
+                        (QFile::exists(file) && (at.isEmpty() || linksOf(file).contains('=' + at))),
+                    qPrintable(page + ": " + href));
             }
         }
         // The help window searches the pages of the player's language.

@@ -6,6 +6,7 @@
 #include <QTextBrowser>
 #include <cmath>
 #include <functional>
+#include <tuple>
 
 namespace support {
 
@@ -40,14 +41,14 @@ inline QString unmarkedSides(const QImage& focused, const QImage& unfocused, con
         return false;
     };
     QString sides;
-    for (int x = r.left(); x <= r.right() && !sides.contains('T'); ++x)
-        if (!marked(x, r.top(), 0, 1)) sides += 'T';
-    for (int x = r.left(); x <= r.right() && !sides.contains('B'); ++x)
-        if (!marked(x, r.bottom(), 0, 1)) sides += 'B';
-    for (int y = r.top(); y <= r.bottom() && !sides.contains('L'); ++y)
-        if (!marked(r.left(), y, 1, 0)) sides += 'L';
-    for (int y = r.top(); y <= r.bottom() && !sides.contains('R'); ++y)
-        if (!marked(r.right(), y, 1, 0)) sides += 'R';
+    for (const auto& [side, at, along] : {std::tuple{'T', r.top(), true},
+                                          {'B', r.bottom(), true},
+                                          {'L', r.left(), false},
+                                          {'R', r.right(), false}}) {
+        const int from = along ? r.left() : r.top(), to = along ? r.right() : r.bottom();
+        for (int i = from; i <= to && !sides.contains(side); ++i)
+            if (!(along ? marked(i, at, 0, 1) : marked(at, i, 1, 0))) sides += side;
+    }
     return sides;
 }
 

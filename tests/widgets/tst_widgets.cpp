@@ -1,12 +1,10 @@
 // The shared widget library: every picture of the manifest built in at both scales, design
-// values in twips brought to pixels, windows centred, panel frames as they show.
-#include "widgets/panel.h"
+// values in twips brought to pixels, windows centred.
 #include "widgets/twips.h"
 #include "widgets/window_design.h"
 
 #include <QFile>
 #include <QImage>
-#include <QPainter>
 #include <QTest>
 #include <QWidget>
 
@@ -50,24 +48,6 @@ private slots:
         QCOMPARE(QList<QRect>({window.geometry(), c->geometry(), g->geometry()}),
                  QList<QRect>({{40, 50, 100, 200}, {0, 1, 1, 2}, {-10, 20, 30, 40}}));
         QCOMPARE(widgets::twipsOf(c), QRect(7, 8, 22, 23)); // the design value stays exact
-    }
-
-    // A sunken frame as the windows draw it: one pixel wide, the upper and left edge outside
-    // the panel, the lower and right edge on its own last row and column.
-    void sunkenFrame()
-    {
-        QImage image(7, 6, QImage::Format_RGB32);
-        image.fill(Qt::black);
-        QPainter painter(&image);
-        widgets::drawFrame(painter, QRect(30, 30, 45, 30), false); // 3 by 2 pixels at (2, 2)
-        painter.end();
-        QString seen; // rows of g grey, w white
-        for (int y = 0; y < image.height(); ++y, seen += '|')
-            for (int x = 0; x < image.width(); ++x)
-                seen += image.pixel(x, y) == widgets::QBColor(8).rgb()    ? 'g'
-                        : image.pixel(x, y) == widgets::QBColor(15).rgb() ? 'w'
-                                                                          : '.';
-        QCOMPARE(seen, ".......|.ggggw.|.g...w.|.g...w.|.wwwww.|.......|");
     }
 };
 
