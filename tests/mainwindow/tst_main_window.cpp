@@ -103,7 +103,7 @@ private slots:
         QVERIFY(g.g.Fehler == 1 && w_->pictureLabel(1)->isVisible());
         QCOMPARE(readAll(ini_), ini);
         w_->close();
-        QVERIFY(readAll(ini_).contains("\r\nLeft= "));
+        QVERIFY(readAll(ini_).contains("\r\nWidth= "));
     }
 
     void aGameByKeysAndClicks()
