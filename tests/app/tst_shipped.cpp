@@ -1,5 +1,5 @@
-// The program as it ships: the sounds and word files the build writes, the help pages of each
-// language; every text a player sees in German, fitting its control, no menu with two entries
+// The program as it ships: the pictures, sounds and word files the build writes, the help pages of
+// each language; every text a player sees in German, fitting its control, no menu with two entries
 // on one access key, English as it was.
 #include "about/info_window.h"
 #include "editor/vocabulary_editor.h"
@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QCryptographicHash>
 #include <QGroupBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -115,6 +116,23 @@ private slots:
                          at(data + 4) == b.size() - data - 8,
                      qPrintable(QString::number(n)));
         }
+    }
+
+    // Every picture of the manifest is built in, at both scales.
+    void pictures()
+    {
+        int count = 0;
+        for (const QByteArray& line : readAll(PICTURE_MANIFEST).split('\n')) {
+            const QList<QByteArray> f = line.simplified().split(' '); // name width height [source]
+            if (f.size() < 3 || line.startsWith('#')) continue;
+            const QString path = ":/pictures/" + QString::fromUtf8(f[0]);
+            const QSize size(f[1].toInt(), f[2].toInt());
+            QVERIFY2(QImage(path + ".png").size() == size &&
+                         QImage(path + "@2x.png").size() == size * 2,
+                     qPrintable(path));
+            ++count;
+        }
+        QVERIFY(count > 60);
     }
 
     // Every shipped word can be played: A to Z only, 20 letters at most, one a line. Each file

@@ -179,11 +179,6 @@ private slots:
             action("about")->trigger();
             QVERIFY(offCentre.manhattanLength() <= 2 || support::onWayland()); // placed there
         }
-        // The end from the menu, Enter takes Yes: the window's place is written.
-        support::onNextModal<QMessageBox>(
-            [](QMessageBox* b) { QTest::keyClick(b, Qt::Key_Return); });
-        action("ende")->trigger();
-        QVERIFY(exits_ == 1 && g.ended() && readAll(ini_).contains("[Window]"));
     }
 
     // A focus a player sees, at 1x and again at 2x (tst_main_window_2x), in every window.
