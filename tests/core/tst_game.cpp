@@ -1,6 +1,7 @@
 // Games played from scripts. A file in scenarios/ holds a player's moves, one a line; under
 // each, indented, stands what followed until the next move: sounds and waits, held words,
-// boxes, and the board as the player sees it. "---" starts a fresh game in a fresh folder.
+// boxes, and the board as the player sees it, where it changed. "---" starts a fresh game in a
+// fresh folder.
 #include "core/game.h"
 #include "support/files.h"
 #include "support/scripted_toolkit.h"
@@ -60,6 +61,7 @@ private:
     void reset()
     {
         t_ = std::make_unique<Table>();
+        shown_.clear();
         t_->tk.player = [this](const QString& entry) { return event(entry); };
     }
 
@@ -88,7 +90,8 @@ private:
             if (!e.isEmpty()) out_ << "  " + e.replace(QChar(13), "\\r");
         }
         t_->tk.log.clear();
-        if (std::exchange(moved_, false)) out_ << "  " + view();
+        if (!std::exchange(moved_, false)) return;
+        if (const QString v = view(); v != std::exchange(shown_, v)) out_ << "  " + v;
     }
 
     // Moves due at a wait or a serve arrive then; where the game holds a finished word or
@@ -250,6 +253,7 @@ private:
     }
 
     QStringList lines_, out_;
+    QString shown_; // the board as last shown
     qsizetype at_ = 0;
     std::unique_ptr<Table> t_;
     bool moved_ = false;           // the player has moved since the board was last shown
