@@ -55,12 +55,19 @@ template <class T> void onNextModal(std::function<void(T*)> act)
     });
 }
 
-// Runs `act` once, from the loop, the first time `action` comes up enabled.
+// Runs `act` once, from the loop, the first time `action` comes up enabled. `act` is to end
+// that wait: one still open five seconds later fails, and the window is closed, which ends it.
 inline void whenEnabled(QAction* action, const std::function<void()>& act)
 {
     auto once = std::make_shared<QMetaObject::Connection>();
     *once = QObject::connect(action, &QAction::enabledChanged, action, [=](bool on) {
-        if (on && QObject::disconnect(*once)) QTimer::singleShot(0, action, act);
+        if (!on || !QObject::disconnect(*once)) return;
+        QTimer::singleShot(0, action, act);
+        QTimer::singleShot(5000, action, [action] {
+            if (!action->isEnabled()) return;
+            QTest::qFail("the wait did not end", __FILE__, __LINE__);
+            qobject_cast<QWidget*>(action->parent())->window()->close();
+        });
     });
 }
 
