@@ -157,6 +157,14 @@ private slots:
         support::whenEnabled(weiter, [&] { QTest::mouseClick(w_->picBut(3), Qt::LeftButton); });
         QTest::keyClicks(w_.get(), "aple");
         QVERIFY(shows(w_->pointLabel(0), "symbol1") && shows(w_->pointLabel(1), "symbol1"));
+        // The apple tree chosen in the options: the points take its symbol, the game goes on.
+        support::onNextModal<settings::OptionsWindow>([](settings::OptionsWindow* o) {
+            const QPoint at = o->Motiv()->visualItemRect(o->Motiv()->item(0)).center();
+            QTest::mouseClick(o->Motiv()->viewport(), Qt::LeftButton, {}, at);
+            QTest::keyClick(o, Qt::Key_Return);
+        });
+        action("opt")->trigger();
+        QVERIFY(shows(w_->pointLabel(0), "symbol0") && shows(w_->pointLabel(1), "symbol0"));
         // The help menu: the contents with the search open, centred on the game; help on help.
         action("hilfe_1")->trigger();
         auto* help = w_->findChild<help::HelpWindow*>();
