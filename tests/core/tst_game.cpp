@@ -13,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <random>
 #include <tuple>
 #include <utility>
 
@@ -67,9 +68,10 @@ private:
 
     // The next move. Comments, blank lines and moves go to the transcript as they stand,
     // after what the game did since the move before.
-    std::optional<QString> next()
+    std::optional<QString> next(const QString& question = {})
     {
         flush();
+        if (randomLeft_ > 0) return randomMove(question);
         while (at_ < lines_.size()) {
             const QString line = lines_[at_++];
             if (line.startsWith("  ")) continue; // what a run showed before
@@ -81,6 +83,11 @@ private:
 
     void flush()
     {
+        if (randomLeft_ > 0) { // only the words drawn and the wins are counted
+            drawn_ += int(t_->tk.log.count("seed"));
+            won_ += int(t_->tk.log.filter("Yippieh").size());
+            return t_->tk.log.clear(), void(moved_ = false);
+        }
         QStringList heard; // sounds, waits and seeds, run together on one line
         for (QString e : t_->tk.log << QString()) { // the empty entry ends the last run
             const bool heardOnly = e.startsWith("wait") || e.startsWith("sound") || e == "seed";
@@ -106,7 +113,7 @@ private:
             return 0;
         }
         moved_ = true; // the board as it stands while the game waits for the player
-        while (const auto line = next())
+        while (const auto line = next(kind == "box" ? entry : QString()))
             if (act(*line)) return std::exchange(answer_, core::kAnswerNo);
         out_ << "  stuck";
         t.game.programEnded();
@@ -119,6 +126,12 @@ private:
         Table& t = *t_;
         core::Game& g = t.game;
         const QString word = line.section(' ', 0, 0), rest = line.section(' ', 1);
+        if (word == "random") { // "random 3000 7": moves drawn from seed 7, then the end
+            random_.seed(rest.section(' ', 1).toUInt());
+            randomLeft_ = rest.section(' ', 0, 0).toInt() + 1, drawn_ = won_ = 0;
+            if (!std::exchange(t.built, true)) g.setUpBoard();
+            return act(*next());
+        }
         if (word == "during" || word == "serve") { // "during 2: keys p": at the second wait
             const QString at = word == "during" ? "wait" : "serve";
             const int n = t.count[at] + rest.section(':', 0, 0).toInt();
@@ -153,6 +166,63 @@ private:
         else out_ << "  error: no move " + word;
         moved_ = moved_ || move;
         return move;
+    }
+
+    // A move at random, or an answer where a question is open: any, but "once again" is yes.
+    // Before it the rules that hold at any moment are checked; after the last one, or a broken
+    // rule, the program is closed.
+    QString randomMove(const QString& question)
+    {
+        const QString broken = brokenRule();
+        if (--randomLeft_ == 0 || !broken.isEmpty()) {
+            out_ << QString("  %1 words drawn, %2 won games, ").arg(drawn_).arg(won_) +
+                        (broken.isEmpty() ? QString("no rule broken") : "broken: " + broken);
+            return randomLeft_ = 0, "close";
+        }
+        const auto pick = [this](int n) { return int(random_() % unsigned(n)); };
+        if (!question.isEmpty()) return pick(2) || question.endsWith("again?") ? "yes" : "no";
+        t_->tk.randoms = {std::uniform_real_distribution(0.0, 1.0)(random_)}; // the next draw
+        const QString word = t_->game.g.Wort; // often one of its letters, as a player would
+        const QString letter = pick(2) && !word.isEmpty() ? QString(word[pick(int(word.size()))])
+                                                          : QString(QChar(u'A' + pick(26)));
+        const QString moves[] = {"keys " + letter,
+                                 "keys " + letter.toLower(),
+                                 "click " + letter,
+                                 "tip",
+                                 "enter",
+                                 QString("button %1").arg("023"[pick(3)]), // not the end's
+                                 "start",
+                                 "options players=" + QString::number(1 + pick(4)),
+                                 "options tips=" + QString::number(pick(4)),
+                                 "options motif=" + QString::number(pick(2)),
+                                 QString("options repeat=") + (pick(2) ? "all" : "new")};
+        const int r = pick(200); // mostly letters, as a player plays; now and then the options
+        return moves[r < 150 ? r % 3 : r < 194 ? 3 + r % 3 : r < 196 ? 6 : 7 + r % 4];
+    }
+
+    // What any moment keeps: the board in order, misses and points in range, the turn on a
+    // row on show, uncovered fields true to the word; between moves one picture, and the tiles
+    // open exactly while a word is under way.
+    QString brokenRule() const
+    {
+        const core::Game& g = t_->game;
+        const core::Board& b = g.board;
+        const QString v = view();
+        const bool fine = !v.contains('!') && !v.contains('?') && !v.contains("other symbols") &&
+                          g.g.Fehler >= 0 && g.g.Fehler <= core::kLostAt &&
+                          std::ranges::all_of(g.g.Punkte, [](int p) { return p >= 0 && p <= 8; }) &&
+                          b.Spieler[g.g.AktSpieler].Visible;
+        bool uncovered = true;
+        for (size_t i = 1; i < b.Feld.size(); ++i)
+            uncovered = uncovered &&
+                        (!b.Feld[i].loaded || b.Feld[i].picture < 0 ||
+                         g.g.Wort.mid(qsizetype(i) - 1, 1) == core::tileTag(b.Feld[i].picture));
+        if (!fine || !uncovered || g.busy()) return fine && uncovered ? QString() : v;
+        const bool underWay = g.g.SpielLaeuft && !b.weiter_Enabled && !g.g.Wort.isEmpty() &&
+                              g.g.Treffer < g.g.Wort.size() && g.g.Fehler < core::kLostAt;
+        const bool tiles = std::all_of(b.alpha.begin(), b.alpha.begin() + core::kLetters,
+                                       [&](const core::Tile& t) { return t.Enabled == underWay; });
+        return tiles && std::ranges::count(b.B_Folge_Visible, true) == 1 ? QString() : v;
     }
 
     // "set sound=0 words=ox,pop": the game's options, its word list, the screen, the chance.
@@ -254,6 +324,8 @@ private:
 
     QStringList lines_, out_;
     QString shown_; // the board as last shown
+    std::mt19937 random_;
+    int randomLeft_ = 0, drawn_ = 0, won_ = 0; // random moves still to play; what they did
     qsizetype at_ = 0;
     std::unique_ptr<Table> t_;
     bool moved_ = false;           // the player has moved since the board was last shown
@@ -268,9 +340,9 @@ private slots:
     void play_data()
     {
         QTest::addColumn<QString>("path");
-        const QFileInfoList files =
-            QDir(SCENARIOS).entryInfoList({"*.txt"}, QDir::Files, QDir::Name);
-        QVERIFY(files.size() > 5);
+        const QFileInfoList files = QDir(qEnvironmentVariable("FROSTEL_SCENARIOS", SCENARIOS))
+                                        .entryInfoList({"*.txt"}, QDir::Files, QDir::Name);
+        QVERIFY(!files.isEmpty());
         for (const QFileInfo& f : files)
             QTest::newRow(qPrintable(f.completeBaseName())) << f.filePath();
     }

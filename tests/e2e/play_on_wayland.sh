@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The real program under a Wayland compositor, ended by the desktop's signal: it opens at the
 # size the settings file stores, no lower than it allows, and writes its size and state but
-# keeps the place, which is the compositor's. Play on Wayland is the monkey's.
+# keeps the place, which is the compositor's. Play on Wayland is the window suites'.
 #   under_weston.sh play_on_wayland.sh FROSTEL32_BINARY
 set -u
 bin=$(readlink -f "$1")
