@@ -60,8 +60,6 @@ private slots:
             auto* box = support::child<QLineEdit>(e, "Text1");
             auto* list = support::child<QListView>(e, "List1");
             auto row = [list](int i) { return list->visualRect(list->model()->index(i, 0)); };
-            // Tab passes over Delete while it is disabled.
-            seen << support::tabWalk(box).join(' ');
             type(box, "AbzÄöüß1 ,\"-'.éñÿ"); // letters and umlauts only
             box->setCursorPosition(0);       // control keys pass, so Delete still deletes
             QTest::sendKeyEvent(QTest::Click, box, Qt::Key_Delete, QString(QChar(127)), {});
@@ -83,9 +81,9 @@ private slots:
             seen << e->words().join(',');
             e->close();
         });
-        QCOMPARE(seen, QStringList({"Text1 List1 Hinzuf Speichern OK Abbruch", "bzÄöü",
-                                    "Äpfel,apple,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra",
-                                    "ar", "Äpfel,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra"}));
+        QCOMPARE(seen,
+                 QStringList({"bzÄöü", "Äpfel,apple,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra",
+                              "ar", "Äpfel,Apple,b,a,Donaudampfschiffahrt,pear,pear,zebra"}));
         QVERIFY(tk_.boxes().isEmpty() && game_.g.Geaendert &&
                 game_.List1 == QStringList{"leftover"});
     }

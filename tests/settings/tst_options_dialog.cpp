@@ -80,11 +80,7 @@ private slots:
             "2 3 1 011 frostel.dat ~, new game");
         row("players: up above it, at most 4", {spin(0, 9)}, "4 3 1 011 frostel.dat ~");
         row("tips: down to 0 at least", {spin(1, 15, 5)}, "4 0 1 011 frostel.dat ~, new game");
-        row("a name", {keys({Qt::Key_K})},
-            "4 3 1 011 frostel.dat k,Helene,Matthis,Svenja, new game");
         row("Alt+A: all words", {keys({Qt::ALT | Qt::Key_A})}, "4 3 1 111 frostel.dat ~, new game");
-        row("Alt+V, Down: vocabulary", {keys({Qt::ALT | Qt::Key_V, Qt::Key_Down})},
-            "4 3 1 011 zoo.dat ~, new game");
         row("Alt+S, Alt+H: sound, show solution",
             {keys({Qt::ALT | Qt::Key_S, Qt::ALT | Qt::Key_H})}, "4 3 1 000 frostel.dat ~");
         // Each counter by its label's key; P also names the picture list, which a second press

@@ -1,5 +1,5 @@
 #pragma once
-// Driving real windows: controls by name, modal windows acted on as they show, Tab walked.
+// Driving real windows: controls by name, modal windows acted on as they show, waits ended.
 #include <QAction>
 #include <QApplication>
 #include <QListWidget>
@@ -69,19 +69,6 @@ inline void whenEnabled(QAction* action, const std::function<void()>& act)
             qobject_cast<QWidget*>(action->parent())->window()->close();
         });
     });
-}
-
-// The controls that Tab visits from `first`, by name, until the focus is back.
-inline QStringList tabWalk(QWidget* first)
-{
-    first->setFocus();
-    QStringList walked{first->objectName()};
-    while (walked.size() < 30) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        if (QApplication::focusWidget() == first) break;
-        walked << QApplication::focusWidget()->objectName();
-    }
-    return walked;
 }
 
 } // namespace support
