@@ -5,8 +5,8 @@
 # editor says so and takes a new word into its box; the help opened and closed; quit through
 # the menu. Checks the titles the window manager shows and what the files then hold. Then
 # started again and ended by the desktop: by signals, and by a session manager.
-#   under_xvfb.sh with_openbox.sh play_a_word.sh FROSTEL32_BINARY
-#   under_xvfb.sh with_openbox.sh play_a_word.sh --installed   as the menu starts an installed game
+#   under_xvfb.sh --openbox play_a_word.sh FROSTEL32_BINARY
+#   under_xvfb.sh --openbox play_a_word.sh --installed   as the menu starts an installed game
 set -u
 bin=$1
 [ "$bin" = --installed ] || bin=$(readlink -f "$1")

@@ -2,12 +2,12 @@
 # What a blind player hears: the real program under the Orca screen reader, played by keys
 # alone, in English and in German. Orca logs each thing it says, also with no synthesizer;
 # every sentence of the board is said once and in order, and a question is read out.
-#   under_xvfb.sh with_openbox.sh with_atspi.sh spoken_game.sh FROSTEL32_BINARY
+#   under_xvfb.sh --openbox with_atspi.sh spoken_game.sh FROSTEL32_BINARY
 # (Orca's --replace ends every process named orca, so nothing here may bear that name.)
 set -u
 bin=$(readlink -f "$1")
 [ -n "${FROSTEL_XVFB:-}" ] && [ -n "${QT_LINUX_ACCESSIBILITY_ALWAYS_ON:-}" ] ||
-    { echo "skipped: run it under under_xvfb.sh, with_openbox.sh and with_atspi.sh"; exit 77; }
+    { echo "skipped: run it under under_xvfb.sh --openbox and with_atspi.sh"; exit 77; }
 command -v orca >/dev/null && command -v xdotool >/dev/null ||
     { echo "skipped: orca or xdotool is missing"; exit 77; }
 work=$(mktemp -d)

@@ -34,7 +34,7 @@ installed=yes
 dpkg -i "$deb" || DEBIAN_FRONTEND=noninteractive apt-get -f install -y -qq ||
     fail "the package did not install"
 dpkg-query -W -f='${Status}' frostel32 | grep -q ' installed$' || fail "the package is not installed"
-"$e2e/under_xvfb.sh" "$e2e/with_openbox.sh" "$e2e/play_a_word.sh" --installed ||
+"$e2e/under_xvfb.sh" --openbox "$e2e/play_a_word.sh" --installed ||
     fail "the installed game did not play"
 dpkg -r frostel32 || fail "the package did not remove"
 installed=""
