@@ -25,8 +25,7 @@ window() {
     local w="" shown
     for _ in $(seq 100); do
         w=$(xdotool search --all --pid $gpid --onlyvisible --name "^$1" 2>/dev/null | tail -1)
-        [ -n "$w" ] && break
-        sleep 0.1
+        [ -n "$w" ] && break || sleep 0.1
     done
     [ -n "$w" ] || fail "no window \"$1\""
     shown=$(xprop -id "$w" _NET_WM_NAME | sed -n 's/^_NET_WM_NAME(UTF8_STRING) = //p')
@@ -39,22 +38,16 @@ export XDG_RUNTIME_DIR=$work/home/.runtime
 mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
 # A vocabulary of one word, so the word is known: in a game folder of its own, or in the data
 # folder of a new player, where an installed game keeps it.
+folder=$work/game run="cd $work/game && exec ./frostel32"
 if [ "$bin" = --installed ]; then
     folder=$XDG_DATA_HOME/frostel32
-    mkdir -p "$folder"
-    printf 'ox\r\n' >"$folder/frostel.dat"
-    printf 'fig\r\n' >"$folder/groceries.dat"
-    start=$(sed -n 's/^Exec=//p' /usr/share/applications/net.frostel32.frostel32.desktop)
-    run="cd $HOME && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec $start"
-else
-    folder=$work/game
-    mkdir -p "$folder"
-    cp "$bin" "$(dirname "$bin")"/frostl*.wav "$folder/"
-    cp "$(dirname "$bin")/frostel32-sound.so" "$folder/" 2>/dev/null
-    printf 'ox\r\n' >"$folder/frostel.dat"
-    printf 'fig\r\n' >"$folder/groceries.dat"
-    run="cd $folder && exec ./frostel32"
+    run="cd $HOME && PATH=/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games exec \
+        $(sed -n 's/^Exec=//p' /usr/share/applications/net.frostel32.frostel32.desktop)"
 fi
+mkdir -p "$folder"
+[ "$bin" = --installed ] || cp "$bin" "${bin%/*}"/frostl*.wav "${bin%/*}"/*.so "$folder/" 2>/dev/null
+printf 'ox\r\n' >"$folder/frostel.dat"
+printf 'fig\r\n' >"$folder/groceries.dat"
 launch() { (eval "$run") >"$work/game.log" 2>&1 & gpid=$!; }
 launch
 win=$(window "Frostel32 v2.31") || exit 1 # the splash comes first
