@@ -21,7 +21,7 @@ appstreamcli validate --no-net "$prefix/share/metainfo/$id.metainfo.xml" >/dev/n
 out=$(desktop-file-validate "$prefix/share/applications/$id.desktop" 2>&1) && [ -z "$out" ] ||
     fail "the desktop entry: $out"
 # A German desktop: launcher, software centre and manual page in German, the window matched to
-# its launcher, the player's README in both languages, the icon at every size a theme asks for.
+# its launcher, the icon at every size a theme asks for.
 desktop=$prefix/share/applications/$id.desktop
 key() { sed -n "s/^$1=//p" "$desktop"; }
 for k in Name GenericName Comment Keywords; do
@@ -38,13 +38,6 @@ for page in man6 de/man6; do
 done
 MANWIDTH=80 man -l "$prefix/share/man/de/man6/frostel32.6.gz" 2>/dev/null | grep -q '^BESCHREIBUNG' ||
     fail "the German manual page is not German"
-# The README names the menu's own keys.
-ui=$(dirname "$(readlink -f "$0")")/../../src/mainwindow/main_window.ui
-for k in $(sed -n 's,.*<string notr="true">\(Ctrl+.\|F1\)</string>.*,\1,p' "$ui"); do
-    grep -qF "$k" "$data/README.TXT" || fail "README.TXT does not name $k"
-    grep -qF "${k/Ctrl/Strg}" "$data/de/README.TXT" ||
-        fail "the German README.TXT does not name ${k/Ctrl/Strg}"
-done
 for s in 16 22 24 32 48 64 128 256; do
     file "$prefix/share/icons/hicolor/${s}x$s/apps/$id.png" | grep -q "PNG image data, $s x $s," ||
         fail "no ${s}x$s icon"
