@@ -110,6 +110,7 @@ private:
         if (kind == "wait" || kind == "serve") {
             const auto [from, to] = t.due.equal_range({kind, ++t.count[kind]});
             for (auto it = from; it != to; ++it) act(it->second);
+            if (randomLeft_ > 0 && random_() % 8 == 0) act(randomMove({})); // input meanwhile
             return 0;
         }
         moved_ = true; // the board as it stands while the game waits for the player
@@ -196,33 +197,32 @@ private:
                                  "options tips=" + QString::number(pick(4)),
                                  "options motif=" + QString::number(pick(2)),
                                  QString("options repeat=") + (pick(2) ? "all" : "new")};
-        const int r = pick(200); // mostly letters, as a player plays; now and then the options
-        return moves[r < 150 ? r % 3 : r < 194 ? 3 + r % 3 : r < 196 ? 6 : 7 + r % 4];
+        const int r = pick(400); // mostly letters, as a player plays; now and then the options
+        return moves[r < 300 ? r % 3 : r < 394 ? 3 + r % 3 : r < 396 ? 6 : 7 + r % 4];
     }
 
-    // What any moment keeps: the board in order, misses and points in range, the turn on a
-    // row on show, uncovered fields true to the word; between moves one picture, and the tiles
-    // open exactly while a word is under way.
+    // What any moment keeps: misses and points in range, the turn on a row on show, uncovered
+    // fields true to the word. Between moves also the board in order, one picture, and the
+    // tiles open exactly while a word is under way. Empty when all hold, else the board.
     QString brokenRule() const
     {
         const core::Game& g = t_->game;
         const core::Board& b = g.board;
-        const QString v = view();
-        const bool fine = !v.contains('!') && !v.contains('?') && !v.contains("other symbols") &&
-                          g.g.Fehler >= 0 && g.g.Fehler <= core::kLostAt &&
-                          std::ranges::all_of(g.g.Punkte, [](int p) { return p >= 0 && p <= 8; }) &&
-                          b.Spieler[g.g.AktSpieler].Visible;
-        bool uncovered = true;
+        const auto inRange = [](int n, int last) { return n >= 0 && n <= last; };
+        bool fine = inRange(g.g.Fehler, core::kLostAt) &&
+                    inRange(g.g.AktSpieler, core::kPlayers - 1) &&
+                    b.Spieler[qBound(0, int(g.g.AktSpieler), core::kPlayers - 1)].Visible;
+        for (int p : g.g.Punkte) fine = fine && inRange(p, core::kPointsToWin);
         for (size_t i = 1; i < b.Feld.size(); ++i)
-            uncovered = uncovered &&
-                        (!b.Feld[i].loaded || b.Feld[i].picture < 0 ||
-                         g.g.Wort.mid(qsizetype(i) - 1, 1) == core::tileTag(b.Feld[i].picture));
-        if (!fine || !uncovered || g.busy()) return fine && uncovered ? QString() : v;
+            fine = fine && (!b.Feld[i].loaded || b.Feld[i].picture < 0 ||
+                            g.g.Wort.mid(qsizetype(i) - 1, 1) == core::tileTag(b.Feld[i].picture));
+        const QString v = view();
+        if (g.busy() || !fine) return fine ? QString() : v;
         const bool underWay = g.g.SpielLaeuft && !b.weiter_Enabled && !g.g.Wort.isEmpty() &&
                               g.g.Treffer < g.g.Wort.size() && g.g.Fehler < core::kLostAt;
-        const bool tiles = std::all_of(b.alpha.begin(), b.alpha.begin() + core::kLetters,
-                                       [&](const core::Tile& t) { return t.Enabled == underWay; });
-        return tiles && std::ranges::count(b.B_Folge_Visible, true) == 1 ? QString() : v;
+        for (int i = 0; i < core::kLetters; ++i) fine = fine && b.alpha[i].Enabled == underWay;
+        fine = fine && !v.contains('!') && !v.contains('?') && !v.contains("other symbols");
+        return fine && std::ranges::count(b.B_Folge_Visible, true) == 1 ? QString() : v;
     }
 
     // "set sound=0 words=ox,pop": the game's options, its word list, the screen, the chance.
