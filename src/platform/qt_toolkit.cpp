@@ -161,7 +161,6 @@ SoundPlayer* QtToolkit::soundPlayer()
 
 void QtToolkit::playSound(int n)
 {
-    if (n < 0 || n > 13) return;
     const QString name = QStringLiteral("frostl%1.wav").arg(n);
     QFileInfo file(name);
     if (!file.exists()) file.setFile(soundFolder + '/' + name);

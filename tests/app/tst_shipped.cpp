@@ -113,6 +113,8 @@ private slots:
             const qsizetype data = b.indexOf("data");
             QVERIFY2(b.startsWith("RIFF") && b.mid(8, 4) == "WAVE" && b.indexOf("fmt ") > 0 &&
                          data > 0 && at(4) == b.size() - 8 && quint16(at(20)) == 1 /* PCM */ &&
+                         at(28) == at(24) * quint16(at(32)) && // bytes a second, a frame
+                         quint16(at(32)) == quint16(at(22)) * quint16(at(34)) / 8 &&
                          at(data + 4) == b.size() - data - 8,
                      qPrintable(QString::number(n)));
         }

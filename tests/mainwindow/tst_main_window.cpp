@@ -153,7 +153,7 @@ private slots:
         // About, centred where the program places it: OK, the only control that takes the focus,
         // has it; Esc or OK closes it.
         for (bool byKey : {true, false}) {
-            QPoint offCentre;
+            QPoint offCentre(9999, 0); // stays so if it closed before anyone saw it
             support::onNextModal<about::InfoWindow>([&](about::InfoWindow* info) {
                 offCentre = info->frameGeometry().center() - info->screen()->geometry().center();
                 QCOMPARE(QApplication::focusWidget(), info->OK());
