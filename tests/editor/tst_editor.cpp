@@ -152,6 +152,43 @@ private slots:
         QCOMPARE(options_.findChild<VocabularyEditor*>() != nullptr,
                  steps.contains('o') && !steps.endsWith('c'));
     }
+
+    // Order and saved bytes against what the editor made before it was made fast: the files of
+    // golden/make_words.py, golden/pasted.txt added, rows deleted. FROSTEL_GOLDEN=write: anew.
+    void golden_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"letters", "ties", "random"}) QTest::newRow(name) << QString(name);
+    }
+
+    void golden()
+    {
+        QFETCH(QString, name);
+        const QString base = QStringLiteral(GOLDEN_DIR "/") + name;
+        QVERIFY(QFile::copy(base + ".dat", "words.dat"));
+        const QString pasted = QString::fromUtf8(support::readAll(GOLDEN_DIR "/pasted.txt"));
+        QStringList order;
+        edit("words.dat", [&](VocabularyEditor* e) {
+            auto press = [e](const char* name) { support::child<QPushButton>(e, name)->click(); };
+            for (const QString& word : pasted.split('\n'))
+                support::child<QLineEdit>(e, "Text1")->setText(word), press("Hinzuf");
+            auto* list = support::child<QListView>(e, "List1");
+            const auto at = [list](int row) { return list->model()->index(row, 0); };
+            list->selectionModel()->select(QItemSelection(at(3), at(60)),
+                                           QItemSelectionModel::Select);
+            list->selectionModel()->select(at(100), QItemSelectionModel::Select);
+            press("Loesch"), press("Speichern");
+            order = e->words();
+            e->close();
+        });
+        const QByteArray saved = support::readAll("words.dat");
+        if (qgetenv("FROSTEL_GOLDEN") == "write")
+            QVERIFY(support::writeBytes(base + ".order", order.join('\n').toUtf8()) &&
+                    support::writeBytes(base + ".saved", saved));
+        QCOMPARE(order.join('\n').split('\n'),
+                 QString::fromUtf8(support::readAll(base + ".order")).split('\n'));
+        QCOMPARE(saved, support::readAll(base + ".saved"));
+    }
 };
 
 QTEST_MAIN(EditorTest)
