@@ -1,8 +1,11 @@
 // One session of the vocabulary editor in the real game, on the frostel.dat of the working
-// folder: "Edit vocabulary" until the editor has painted its list, one word added, one
-// deleted, Save; and the game's resident memory before and after the editor opened.
-// Prints: open add delete save (seconds) rss_before rss_open rss_end (MB). Run by
-// bench/editor.sh, which gives it an X server and the word files.
+// folder: "Edit vocabulary" until the editor has painted its list, one word added, then three
+// deletes (the top row, the widest word, a block of 1,000 rows), Save; and the game's resident
+// memory before and after the editor opened. Every step is timed until the list has painted.
+// Prints: open add delete_top delete_widest delete_1000 save sync (seconds) rss_before rss_open
+// rss_end (MB); sync is what the disk alone takes to make the saved bytes safe, for comparison.
+// Run by bench/editor.sh, which gives it an X server and the word files (the widest word
+// is kWidest, planted there).
 #include "editor/vocabulary_editor.h"
 #include "mainwindow/main_window.h"
 #include "platform/lean_style.h"
@@ -14,6 +17,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QTest>
 #include <QTimer>
 #include <cstdio>
@@ -25,6 +29,8 @@
 using editor::VocabularyEditor;
 
 namespace {
+
+const QString kWidest(20, u'W');
 
 QPushButton* button(QWidget* window, const char* name)
 {
@@ -80,9 +86,23 @@ void afterPaintOf(QWidget* w, std::function<void()> next)
 }
 
 struct Figures {
-    double open = 0, add = 0, del = 0, save = 0;
+    double open = 0, add = 0, delTop = 0, delWidest = 0, delBlock = 0, save = 0, sync = 0;
     double rssBefore = 0, rssOpen = 0, rssEnd = 0;
 };
+
+// Seconds the disk takes to make `bytes` safe in a new file: the sync a save cannot avoid.
+double syncSeconds(const QByteArray& bytes)
+{
+    QSaveFile file(QStringLiteral("sync-probe.dat"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+        return -1;
+    QElapsedTimer clock;
+    clock.start();
+    const bool ok = file.commit();
+    const double s = clock.nsecsElapsed() / 1e9;
+    QFile::remove(QStringLiteral("sync-probe.dat"));
+    return ok ? s : -1;
+}
 
 class Session {
 public:
@@ -92,8 +112,9 @@ public:
     {
         QTimer::singleShot(0, &window_, [this] { inOptions(); });
         window_.opt_Click(); // returns once the options window has gone
-        std::printf("%.3f %.3f %.3f %.3f %.1f %.1f %.1f\n", f_.open, f_.add, f_.del, f_.save,
-                    f_.rssBefore, f_.rssOpen, f_.rssEnd);
+        std::printf("%.4f %.4f %.4f %.4f %.4f %.4f %.4f %.1f %.1f %.1f\n", f_.open, f_.add,
+                    f_.delTop, f_.delWidest, f_.delBlock, f_.save, f_.sync, f_.rssBefore,
+                    f_.rssOpen, f_.rssEnd);
         std::fflush(stdout);
         QCoreApplication::quit();
     }
@@ -138,22 +159,57 @@ private:
         button(editor_, "Hinzuf")->click();
         afterPaintOf(editor_->findChild<QListView*>("List1")->viewport(), [this] {
             f_.add = seconds();
-            del();
+            delTop();
         });
     }
 
-    void del()
+    QListView* list() const { return editor_->findChild<QListView*>("List1"); }
+
+    // Deletes the selected rows and goes on with `next` once the list has painted.
+    void del(double& figure, void (Session::*next)())
     {
-        QListView* list = editor_->findChild<QListView*>("List1");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualRect(list->indexAt(QPoint(4, 4))).center());
         clock_.start();
         button(editor_, "Loesch")->click();
-        afterPaintOf(list->viewport(), [this] {
-            f_.del = seconds();
-            save();
+        afterPaintOf(list()->viewport(), [this, &figure, next] {
+            figure = seconds();
+            (this->*next)();
         });
     }
+
+    void delTop()
+    {
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {},
+                          list()->visualRect(list()->indexAt(QPoint(4, 4))).center());
+        del(f_.delTop, &Session::delWidest);
+    }
+
+    // Selects rows `top` to `bottom` as a click and a shift-click would, once they have painted.
+    void select(int top, int bottom, void (Session::*next)())
+    {
+        QItemSelectionModel* selection = list()->selectionModel();
+        const QModelIndex first = list()->model()->index(top, 0);
+        list()->scrollTo(first);
+        selection->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        selection->select(QItemSelection(first, list()->model()->index(bottom, 0)),
+                          QItemSelectionModel::ClearAndSelect);
+        afterPaintOf(list()->viewport(), [this, next] { (this->*next)(); });
+        list()->viewport()->update();
+    }
+
+    void delWidest()
+    {
+        const int row = int(editor_->words().indexOf(kWidest));
+        if (row < 0) std::fprintf(stderr, "no %s in the list\n", qPrintable(kWidest));
+        select(row, row, &Session::delWidestNow);
+    }
+    void delWidestNow() { del(f_.delWidest, &Session::delBlock); }
+
+    void delBlock()
+    {
+        const int top = int(editor_->words().size() / 3);
+        select(top, top + 999, &Session::delBlockNow);
+    }
+    void delBlockNow() { del(f_.delBlock, &Session::save); }
 
     void save()
     {
@@ -162,6 +218,8 @@ private:
         QTimer::singleShot(0, editor_, [this] {
             f_.save = seconds();
             f_.rssEnd = rssMb();
+            QFile saved(QStringLiteral("frostel.dat"));
+            f_.sync = saved.open(QIODevice::ReadOnly) ? syncSeconds(saved.readAll()) : -1;
             button(editor_, "OK")->click(); // saved: no question
         });
     }
