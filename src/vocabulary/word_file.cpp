@@ -163,10 +163,19 @@ std::optional<Failure> writeWordFile(const QString& fileName, const QStringList&
     // A folder, a device or a pipe (or a link to one) is no word file: a save would replace
     // it, or pour the words into it.
     if (info.exists() && !info.isFile()) return kAccess;
-    QByteArray bytes;
-    for (const QString& w : words) {
-        bytes += encodeCp1252(w);
-        bytes += "\r\n";
+    // One byte a character and two a line end: the bytes are counted first and written into
+    // place, a million words in one allocation.
+    qsizetype size = 0;
+    for (const QString& w : words) size += w.size() + 2;
+    QByteArray bytes(size, Qt::Uninitialized);
+    char* out = bytes.data();
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        // A long list's words lie scattered in memory, a sorted one's most of all: each is
+        // asked for a few words ahead, so that the waits for memory overlap.
+        if (i + 16 < words.size()) __builtin_prefetch(words[i + 16].constData());
+        out = encodeCp1252(words[i], out);
+        *out++ = '\r';
+        *out++ = '\n';
     }
     const auto failure = writeWhole(fileName, bytes, true);
     if (!failure) return std::nullopt;
