@@ -1,6 +1,7 @@
 #pragma once
 // The rules of the vocabulary editor that need no window: which keys the word box takes,
-// the order of the list, what the box selects when it gets the focus, and the messages.
+// what the box selects when it gets the focus, and the messages (the list's order is in
+// word_order.h).
 #include "vocabulary/word_file.h"
 
 #include <QString>
@@ -14,12 +15,6 @@ namespace editor {
 bool keyPasses(QChar c);
 // The characters of an input that pass, in order.
 QString passingKeys(QStringView typed);
-
-// The list's alphabetical order: letters by their base ("Ä" files with "A"), then plain
-// before accented, then small before capital. <0, 0 or >0; 0 only for equal words.
-int compareWords(QStringView a, QStringView b);
-// Puts the words in that order, each word's keys worked out once.
-void sortWords(QStringList& words);
 
 // What the word box selects when the focus enters it: from where the cursor stands to
 // the end of the text. Returns the selection's length.

@@ -1,6 +1,6 @@
 #include "editor/sorted_words.h"
 
-#include "editor/editor_rules.h"
+#include "editor/word_order.h"
 
 #include <algorithm>
 
