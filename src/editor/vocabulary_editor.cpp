@@ -42,11 +42,12 @@ std::vector<std::pair<int, int>> blocksOf(const QItemSelection& selection)
 
 VocabularyEditor::VocabularyEditor(core::Global& g, QStringList& mainList, core::Toolkit& toolkit,
                                    QWidget* parent)
-    : DesignDialog(parent), ui_(std::make_unique<Ui::VocabularyEditor>()), g_(g), mainList_(mainList),
-      tk_(toolkit), words_(new SortedWords(this)), rows_(new WordRows(this))
+    : DesignDialog(parent), ui_(std::make_unique<Ui::VocabularyEditor>()), g_(g),
+      mainList_(mainList), tk_(toolkit), words_(new SortedWords(this))
 {
     ui_->setupUi(this);
     applyDesign();
+    rows_ = new WordRows(words_, ui_->List1);
     setWindowTitle(g.WortDatei.isEmpty() ? tr("Edit vocabulary...") : g.WortDatei);
     ui_->Hinzuf->setText(tr("&Add"));
     ui_->Loesch->setText(tr("&Delete"));
@@ -80,7 +81,6 @@ void VocabularyEditor::ListeLaden()
     if (g_.WortDatei.isEmpty()) g_.WortDatei = QStringLiteral("eisfig.dat");
     vocabulary::ReadResult r = vocabulary::readWordFile(g_.WortDatei);
     words_->setWords(std::move(r.words));
-    rows_->measure(words_->words(), ui_->List1->font());
     if (r.failure)
         tk_.msgBox(loadFailureText(g_.WortDatei, *r.failure), core::kOkExclamation, errorTitle());
     // Typing goes to the word box, also once a box has told of a failure.
@@ -106,7 +106,6 @@ void VocabularyEditor::Hinzuf_Click()
 {
     if (!ui_->Text1->text().isEmpty()) {
         const QScopedValueRollback quiet(quiet_, true);
-        rows_->measure(ui_->Text1->text(), ui_->List1->font());
         words_->add(ui_->Text1->text());
         ui_->Text1->clear();
     }
@@ -122,7 +121,6 @@ void VocabularyEditor::Loesch_Click()
         const auto blocks = blocksOf(ui_->List1->selectionModel()->selection());
         for (auto block = blocks.rbegin(); block != blocks.rend(); ++block)
             words_->removeRows(block->first, block->second - block->first + 1);
-        rows_->measure(words_->words(), ui_->List1->font());
     }
     ui_->Loesch->setEnabled(false);
     g_.Geaendert = true;

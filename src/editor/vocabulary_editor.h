@@ -52,7 +52,7 @@ private:
     QStringList& mainList_;
     core::Toolkit& tk_;
     SortedWords* words_; // what List1 shows
-    WordRows* rows_;     // and how wide its rows are
+    WordRows* rows_;     // and how wide its rows are, following it
     bool quiet_ = false; // the list changes by code: no click handlers
 };
 
