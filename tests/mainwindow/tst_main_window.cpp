@@ -100,10 +100,10 @@ private slots:
         QTest::keyClick(w_.get(), Qt::Key_E, Qt::ControlModifier);
         QVERIFY(exits_ == 0 && box == "Program end: Really end the game?");
         // A narrow box keeps its title whole beside the frame's icon and three buttons; a CR in
-        // its text breaks the line.
+        // its text breaks the line; an exclamation box shows the warning sign.
         int room = 0;
         support::onNextModal<QMessageBox>([&](QMessageBox* b) {
-            box = b->text();
+            box = b->text() + (b->icon() == QMessageBox::Warning ? " (!)" : "");
             QFont bold = b->font();
             bold.setBold(true);
             room = b->width() - QFontMetrics(bold).horizontalAdvance("Yippieh!") -
@@ -111,7 +111,7 @@ private slots:
             b->close();
         });
         w_->toolkit().msgBox("Kim\rwon!", core::kOkExclamation, "Yippieh!");
-        QVERIFY2(room >= 0 && box == "Kim\nwon!", qPrintable(QString::number(room) + box));
+        QVERIFY2(room >= 0 && box == "Kim\nwon! (!)", qPrintable(QString::number(room) + box));
         // A word by the traffic light; a letter by its key, another by its tile.
         QTest::mouseClick(w_->picBut(0), Qt::LeftButton);
         QVERIFY(g.g.Wort == "APPLE" && action("tip")->isEnabled());
